@@ -1,0 +1,91 @@
+#pragma once
+// What the logic needs from the machine, behind one interface: message and input boxes,
+// the clipboard, keys, registry values, focus, the hourglass, folders and files.
+// ScriptedPlatform answers from a queue (tests and the quillet tool); the Windows half of this
+// folder answers from the real system.
+
+#include <optional>
+#include <string>
+
+#include "basic/vb_error.h"
+
+namespace quillet::platform {
+
+using basic::Str;
+
+// MsgBox button values and answers.
+namespace mb {
+constexpr int vbOKOnly = 0;
+constexpr int vbOKCancel = 1;
+constexpr int vbAbortRetryIgnore = 2;
+constexpr int vbYesNoCancel = 3;
+constexpr int vbYesNo = 4;
+constexpr int vbRetryCancel = 5;
+constexpr int vbCritical = 16;
+constexpr int vbQuestion = 32;
+constexpr int vbExclamation = 48;
+constexpr int vbInformation = 64;
+constexpr int vbDefaultButton2 = 256;
+constexpr int vbDefaultButton3 = 512;
+
+constexpr int vbOK = 1;
+constexpr int vbCancel = 2;
+constexpr int vbAbort = 3;
+constexpr int vbRetry = 4;
+constexpr int vbIgnore = 5;
+constexpr int vbYes = 6;
+constexpr int vbNo = 7;
+}  // namespace mb
+
+// The answers a box with these buttons can give, first to last, and the one its default button gives.
+int defaultAnswer(int buttons);
+bool answerFits(int buttons, int answer);
+
+// The key of the editor's own settings (tab width, code font).
+inline constexpr char16_t kEditorSettingsKey[] = u"Software\\Microsoft\\VBA\\6.0\\Common";
+
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    // MsgBox(prompt, buttons, title): one of the mb:: answers.
+    virtual int MsgBox(const Str& prompt, int buttons, const Str& title) = 0;
+    // InputBox(prompt, title, default): the text, or none for Cancel.
+    virtual std::optional<Str> InputBox(const Str& prompt, const Str& title, const Str& defaultText) = 0;
+
+    virtual void ClipboardClear() = 0;
+    virtual void ClipboardSetText(const Str& text) = 0;
+    virtual std::optional<Str> ClipboardGetText() = 0;
+
+    // SendKeys with Basic's key syntax ("^v", " ", "{BACKSPACE}").
+    virtual void SendKeys(const Str& keys, bool wait) = 0;
+
+    // A value under HKEY_CURRENT_USER\key; none when absent.
+    virtual std::optional<Str> RegistryValue(const Str& key, const Str& name) = 0;
+    // Basic's GetSetting / SaveSetting (the application's own settings store).
+    virtual Str GetSetting(const Str& app, const Str& section, const Str& key, const Str& defaultValue) = 0;
+    virtual void SaveSetting(const Str& app, const Str& section, const Str& key, const Str& value) = 0;
+
+    // Keyboard focus, as window handles (0 none).
+    virtual long long GetFocus() = 0;
+    virtual void SetFocus(long long window) = 0;
+
+    virtual void Hourglass(bool on) = 0;
+    // Lets pending messages run (Basic's DoEvents).
+    virtual void DoEvents() = 0;
+
+    // The add-in's own folder and the temporary folder, with a trailing backslash.
+    virtual Str AddinFolder() = 0;
+    virtual Str TempFolder() = 0;
+    // PathFileExistsA on a path in the system's form.
+    virtual bool FileExists(const Str& path) = 0;
+    // ShellExecute "open" on a document or address.
+    virtual void ShellOpen(const Str& target) = 0;
+};
+
+// The editor's settings, read from kEditorSettingsKey.
+long editorTabWidth(Platform& platform);            // 4 when absent or not a positive number
+std::optional<Str> editorFontFace(Platform& platform);  // only a face containing "Courier New"
+std::optional<long> editorFontHeight(Platform& platform);
+
+}  // namespace quillet::platform
