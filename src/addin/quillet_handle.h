@@ -1,0 +1,12 @@
+#pragma once
+// The front door of the quick commands: QuilletHandle(command, type) turns a command word into
+// code at the caret of the active code pane. It never throws: failures are reported through
+// HandleError and the command goes on or ends as its description says.
+
+#include "addin/context.h"
+
+namespace quillet::addin {
+
+void QuilletHandle(Context& ctx, const Str& command, const Str& type);
+
+}  // namespace quillet::addin

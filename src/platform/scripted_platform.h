@@ -1,0 +1,85 @@
+#pragma once
+// The platform of tests and of the quillet tool: answers to boxes come from a queue, in order;
+// a message box with no answer left takes its default button, and an input box with no answer
+// left counts as Cancel. Everything shown is logged so tests can read it back.
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace quillet::platform {
+
+struct ShownBox {
+    enum class Kind { Message, Input } kind;
+    Str prompt;
+    Str title;
+    int buttons = 0;      // message boxes
+    Str defaultText;      // input boxes
+    std::optional<Str> answer;  // the text typed, or the answer's name ("yes", "cancel" ...)
+};
+
+class ScriptedPlatform : public Platform {
+public:
+    ScriptedPlatform();
+
+    // One answer for the next box: "ok", "cancel", "yes", "no", "abort", "retry", "ignore", or
+    // the text typed into an input box. ("cancel" answers an input box with Cancel.)
+    void queueAnswer(const Str& answer);
+    size_t pendingAnswers() const { return answers_.size(); }
+    const std::vector<ShownBox>& shownBoxes() const { return shown_; }
+    const std::vector<Str>& sentKeys() const { return keys_; }
+
+    // Registry values under HKEY_CURRENT_USER, for tests ("key" + "\\" + "name").
+    void setRegistryValue(const Str& key, const Str& name, const Str& value);
+    void setAddinFolder(const Str& folder) { addinFolder_ = folder; }
+    void setTempFolder(const Str& folder) { tempFolder_ = folder; }
+    // Files that FileExists reports, in the system's path form (compared ignoring case).
+    void addFile(const Str& path);
+    void removeFile(const Str& path);
+
+    // Hooks to the editor being played: focus and pasting ("^v").
+    std::function<long long()> focusGetter;
+    std::function<void(long long)> focusSetter;
+    std::function<void(const Str& text)> pasteSink;
+
+    int MsgBox(const Str& prompt, int buttons, const Str& title) override;
+    std::optional<Str> InputBox(const Str& prompt, const Str& title, const Str& defaultText) override;
+    void ClipboardClear() override;
+    void ClipboardSetText(const Str& text) override;
+    std::optional<Str> ClipboardGetText() override;
+    void SendKeys(const Str& keys, bool wait) override;
+    std::optional<Str> RegistryValue(const Str& key, const Str& name) override;
+    Str GetSetting(const Str& app, const Str& section, const Str& key, const Str& defaultValue) override;
+    void SaveSetting(const Str& app, const Str& section, const Str& key, const Str& value) override;
+    long long GetFocus() override;
+    void SetFocus(long long window) override;
+    void Hourglass(bool on) override;
+    void DoEvents() override {}
+    Str AddinFolder() override { return addinFolder_; }
+    Str TempFolder() override { return tempFolder_; }
+    bool FileExists(const Str& path) override;
+    void ShellOpen(const Str& target) override { opened_.push_back(target); }
+
+    bool hourglassOn() const { return hourglass_ > 0; }
+    const std::vector<Str>& opened() const { return opened_; }
+
+private:
+    std::deque<Str> answers_;
+    std::vector<ShownBox> shown_;
+    std::vector<Str> keys_;
+    std::optional<Str> clipboard_;
+    std::map<Str, Str> registry_;
+    std::map<Str, Str> settings_;
+    std::vector<Str> files_;
+    std::vector<Str> opened_;
+    Str addinFolder_ = u"C:\\Quillet\\";
+    Str tempFolder_ = u"C:\\Temp\\";
+    long long focus_ = 0;
+    int hourglass_ = 0;
+};
+
+}  // namespace quillet::platform
