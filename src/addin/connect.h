@@ -1,0 +1,58 @@
+#pragma once
+// The connection object the editor loads: brings the add-in up in a fixed order, takes it down,
+// and answers the add-in manager. None of its entry points ever lets an exception out: the
+// editor's process must not fall over because of the add-in.
+
+#include <memory>
+
+#include "addin/context.h"
+
+namespace quillet::addin {
+
+// ext_ConnectMode
+enum ConnectMode : long {
+    ext_cm_AfterStartup = 0,
+    ext_cm_Startup = 1,
+    ext_cm_External = 2,
+    ext_cm_CommandLine = 3,
+};
+
+class Connect {
+public:
+    explicit Connect(std::shared_ptr<platform::Platform> platform);
+    ~Connect();
+
+    void AddinInstance_OnConnection(const host::VBEPtr& application, long connectMode,
+                                    const basic::DispatchPtr& addInInst) noexcept;
+    void AddinInstance_OnDisconnection(long removeMode) noexcept;
+    void AddinInstance_OnAddInsUpdate() noexcept;
+    void AddinInstance_OnStartupComplete() noexcept {}
+    void AddinInstance_OnBeginShutdown() noexcept {}
+
+    bool connected() const { return context_ != nullptr; }
+    // The global state while connected.
+    Context* context() { return context_.get(); }
+    long ConnectModeValue() const { return connectMode_; }
+
+private:
+    std::shared_ptr<platform::Platform> platform_;
+    std::unique_ptr<Context> context_;
+    long connectMode_ = 0;
+};
+
+// The three connectors the Office applications load beside Connect, so that the add-in holds
+// its host's application object. They only set and clear their global; failures are ignored.
+enum class ConnectorKind { Excel, Word, Access };
+
+class HostConnector {
+public:
+    HostConnector(ConnectorKind kind, Context* context) : kind_(kind), context_(context) {}
+    void AddinInstance_OnConnection(const basic::DispatchPtr& application) noexcept;
+    void AddinInstance_OnDisconnection() noexcept;
+
+private:
+    ConnectorKind kind_;
+    Context* context_;
+};
+
+}  // namespace quillet::addin

@@ -1,0 +1,32 @@
+#pragma once
+// The hidden form that carries the add-in's timers. The timers are plain models: the Windows
+// view starts a real timer for each Interval above 0 and calls the matching method; tests call
+// the methods themselves.
+
+#include "addin/context.h"
+
+namespace quillet::addin {
+
+class frmTimer {
+public:
+    explicit frmTimer(Context& ctx) : ctx_(ctx) {}
+
+    struct Timer {
+        long Interval = 0;
+        Str Tag;
+    };
+    Timer Timer1{500, {}};  // project watch and bar state
+    Timer Timer2;           // one shot: opens a builder after a Select block stands
+    Timer Timer3;           // retries a report to the Immediate window
+
+    // Each never throws.
+    void Timer1_Timer() noexcept;
+    void Timer2_Timer() noexcept;
+    void Timer3_Timer() noexcept;
+
+private:
+    Context& ctx_;
+    bool busy_ = false;  // guards against re-entrance through DoEvents
+};
+
+}  // namespace quillet::addin
