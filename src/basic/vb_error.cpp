@@ -27,6 +27,7 @@ Str VbError::standardDescription(long number) {
     case err::PathFileAccess: return u"Path/File access error";
     case err::PathNotFound: return u"Path not found";
     case err::ObjectNotSet: return u"Object variable or With block variable not set";
+    case err::InvalidPattern: return u"Invalid pattern string";
     case err::ObjectRequired: return u"Object required";
     case err::NotSupported: return u"Object doesn't support this property or method";
     case err::KeyTaken: return u"This key is already associated with an element of this collection";

@@ -45,6 +45,7 @@ constexpr long FileExists = 58;
 constexpr long PathFileAccess = 75;
 constexpr long PathNotFound = 76;
 constexpr long ObjectNotSet = 91;
+constexpr long InvalidPattern = 93;       // Invalid pattern string
 constexpr long ObjectRequired = 424;
 constexpr long NotSupported = 438;         // Object doesn't support this property or method
 constexpr long KeyTaken = 457;             // This key is already associated with an element of this collection
