@@ -19,7 +19,8 @@ enum ConnectMode : long {
 
 class Connect {
 public:
-    explicit Connect(std::shared_ptr<platform::Platform> platform);
+    explicit Connect(std::shared_ptr<platform::Platform> platform,
+                     std::shared_ptr<HostApplications> hostApps = std::make_shared<HostApplications>());
     ~Connect();
 
     void AddinInstance_OnConnection(const host::VBEPtr& application, long connectMode,
@@ -35,7 +36,11 @@ public:
     long ConnectModeValue() const { return connectMode_; }
 
 private:
+    void bringUp(const host::VBEPtr& application, const basic::DispatchPtr& addInInst);
+    void createToolWindows(const basic::DispatchPtr& addInInst);
+
     std::shared_ptr<platform::Platform> platform_;
+    std::shared_ptr<HostApplications> hostApps_;
     std::unique_ptr<Context> context_;
     long connectMode_ = 0;
 };
@@ -46,13 +51,16 @@ enum class ConnectorKind { Excel, Word, Access };
 
 class HostConnector {
 public:
-    HostConnector(ConnectorKind kind, Context* context) : kind_(kind), context_(context) {}
+    HostConnector(ConnectorKind kind, std::shared_ptr<HostApplications> hostApps)
+        : kind_(kind), hostApps_(std::move(hostApps)) {}
     void AddinInstance_OnConnection(const basic::DispatchPtr& application) noexcept;
     void AddinInstance_OnDisconnection() noexcept;
 
 private:
+    basic::DispatchPtr& slot();
+
     ConnectorKind kind_;
-    Context* context_;
+    std::shared_ptr<HostApplications> hostApps_;
 };
 
 }  // namespace quillet::addin

@@ -17,9 +17,27 @@ using basic::Str;
 class Connect;
 class frmTimer;
 
+// What the quick commands keep between the steps of one command: taken afresh for each.
+struct QuickCommandState {
+    Str Command;
+    Str Type;
+    Str CurrentWord;
+    Str SuggestedName;
+};
+
+// The Office application objects that the connectors hold. They live beside the connection,
+// because Office may load a connector before or after the editor connects the add-in.
+struct HostApplications {
+    const basic::DispatchPtr& ExcelApp() const { return hostApps_->ExcelApp; }
+    const basic::DispatchPtr& WordApp() const { return hostApps_->WordApp; }
+    const basic::DispatchPtr& AccessApp() const { return hostApps_->AccessApp; }
+    HostApplications& hostApplications() { return *hostApps_; }
+};
+
 class Context {
 public:
-    Context(host::VBEPtr vbe, std::shared_ptr<platform::Platform> platform);
+    Context(host::VBEPtr vbe, std::shared_ptr<platform::Platform> platform,
+            std::shared_ptr<HostApplications> hostApps = std::make_shared<HostApplications>());
     ~Context();
     Context(const Context&) = delete;
     Context& operator=(const Context&) = delete;
@@ -29,7 +47,10 @@ public:
 
     host::VBEPtr VBInstance;
     Connect* ConnectInstance = nullptr;
-    basic::DispatchPtr ExcelApp, WordApp, AccessApp;
+    const basic::DispatchPtr& ExcelApp() const { return hostApps_->ExcelApp; }
+    const basic::DispatchPtr& WordApp() const { return hostApps_->WordApp; }
+    const basic::DispatchPtr& AccessApp() const { return hostApps_->AccessApp; }
+    HostApplications& hostApplications() { return *hostApps_; }
     Str HostName;
     Str CurrentProjectFile;
     bool TestingMode = false;
@@ -42,6 +63,11 @@ public:
     bool ImmediateActive = false;
     Str CurrentCommand;
     std::vector<Str> Keywords;
+    QuickCommandState Quick;
+
+    // How often ProjectInitialize has run in this connection (the timer's project watch is
+    // judged by it).
+    long ProjectInitializeRuns = 0;
 
     // Where the add-in's reports also go (the quillet tool prints them to standard error).
     std::function<void(const Str& report)> reportListener;
@@ -52,6 +78,7 @@ public:
 
 private:
     std::shared_ptr<platform::Platform> platform_;
+    std::shared_ptr<HostApplications> hostApps_;
 };
 
 }  // namespace quillet::addin

@@ -9,4 +9,7 @@ namespace quillet::addin {
 
 void QuilletHandle(Context& ctx, const Str& command, const Str& type);
 
+// Whether the word is one of the quick commands' words (matched exactly, trailing blanks included).
+bool isQuickCommand(const Str& command);
+
 }  // namespace quillet::addin

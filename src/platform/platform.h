@@ -81,6 +81,9 @@ public:
     virtual bool FileExists(const Str& path) = 0;
     // ShellExecute "open" on a document or address.
     virtual void ShellOpen(const Str& target) = 0;
+    // FindWindowA(className) then CloseWindow on it (minimises a window that is in the way);
+    // nothing when there is none.
+    virtual void CloseWindowOfClass(const Str& className) = 0;
 };
 
 // The editor's settings, read from kEditorSettingsKey.

@@ -63,8 +63,10 @@ public:
     Str TempFolder() override { return tempFolder_; }
     bool FileExists(const Str& path) override;
     void ShellOpen(const Str& target) override { opened_.push_back(target); }
+    void CloseWindowOfClass(const Str& className) override { closedWindowClasses_.push_back(className); }
+    const std::vector<Str>& closedWindowClasses() const { return closedWindowClasses_; }
 
-    bool hourglassOn() const { return hourglass_ > 0; }
+    bool hourglassOn() const { return hourglass_; }
     const std::vector<Str>& opened() const { return opened_; }
 
 private:
@@ -76,10 +78,11 @@ private:
     std::map<Str, Str> settings_;
     std::vector<Str> files_;
     std::vector<Str> opened_;
+    std::vector<Str> closedWindowClasses_;
     Str addinFolder_ = u"C:\\Quillet\\";
     Str tempFolder_ = u"C:\\Temp\\";
     long long focus_ = 0;
-    int hourglass_ = 0;
+    bool hourglass_ = false;
 };
 
 }  // namespace quillet::platform

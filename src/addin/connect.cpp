@@ -1,0 +1,116 @@
+#include "addin/connect.h"
+
+#include "addin/command_bar.h"
+#include "addin/err_handler.h"
+#include "addin/frm_timer.h"
+#include "addin/lifecycle.h"
+#include "basic/strings.h"
+
+namespace quillet::addin {
+
+namespace {
+
+constexpr char16_t kModule[] = u"Connect.";
+
+struct ToolWindowSpec {
+    const char16_t* progId;
+    const char16_t* caption;
+    const char16_t* guidPosition;
+};
+constexpr ToolWindowSpec kShortcutsWindow{u"Quillet.docDirectAccess", u"Shortcuts and Search", u"QuilletDirectAccess"};
+constexpr ToolWindowSpec kCodeExplorerWindow{u"Quillet.docCodeExplorer", u"Code Explorer", u"QuilletCodeExplorer"};
+
+host::WindowPtr createToolWindow(Context& ctx, const basic::DispatchPtr& addInInst, const ToolWindowSpec& spec,
+                                 basic::DispatchPtr& doc) {
+    return ctx.VBInstance->Windows()->CreateToolWindow(addInInst, spec.progId, spec.caption, spec.guidPosition, doc);
+}
+
+}  // namespace
+
+Connect::Connect(std::shared_ptr<platform::Platform> platform, std::shared_ptr<HostApplications> hostApps)
+    : platform_(std::move(platform)), hostApps_(std::move(hostApps)) {}
+
+Connect::~Connect() {
+    if (context_) AddinInstance_OnDisconnection(0);
+}
+
+void Connect::AddinInstance_OnConnection(const host::VBEPtr& application, long connectMode,
+                                         const basic::DispatchPtr& addInInst) noexcept {
+    try {
+        if (context_) AddinInstance_OnDisconnection(0);
+        connectMode_ = connectMode;
+        context_ = std::make_unique<Context>(application, platform_, hostApps_);
+        context_->ConnectInstance = this;
+        bringUp(application, addInInst);
+    } catch (...) {
+        // The editor switches an add-in off for good when its connection fails: never let it see one.
+    }
+}
+
+void Connect::bringUp(const host::VBEPtr& application, const basic::DispatchPtr& addInInst) {
+    Context& ctx = *context_;
+    const Str where = Str(kModule) + u"AddinInstance_OnConnection";
+    auto& platform = ctx.Platform();
+    ctx.VBInstance = application;
+    ignoringErrors([&] { platform.Hourglass(true); });
+    guarded(ctx, where, [&] {
+        ctx.TestingMode = platform.FileExists(platform.AddinFolder() + u"testing.txt");
+        ctx.ShowMode = ctx.TestingMode ? 0 : 1;
+    });
+    ctx.ImmediateWindowHandle = FindImmediateWindowHandle(ctx);
+    AddInInitialize(ctx);
+    ctx.CurrentProjectFile.clear();
+    ctx.TimerForm = std::make_unique<frmTimer>(ctx);
+    guarded(ctx, where, [&] { ToolBarCreate(ctx, ctx.VBInstance->CommandBars(), u""); });
+    createToolWindows(addInInst);
+    ignoringErrors([&] { platform.Hourglass(false); });
+}
+
+void Connect::createToolWindows(const basic::DispatchPtr& addInInst) {
+    Context& ctx = *context_;
+    const Str where = Str(kModule) + u"AddinInstance_OnConnection";
+    guarded(ctx, where, [&] {
+        ctx.ShortcutsToolWindow = createToolWindow(ctx, addInInst, kShortcutsWindow, ctx.ShortcutsDoc);
+    });
+    guarded(ctx, where, [&] {
+        ctx.CodeExplorerToolWindow = createToolWindow(ctx, addInInst, kCodeExplorerWindow, ctx.CodeExplorerDoc);
+    });
+}
+
+void Connect::AddinInstance_OnDisconnection(long /*removeMode*/) noexcept {
+    if (!context_) return;
+    try {
+        Context& ctx = *context_;
+        guarded(ctx, Str(kModule) + u"AddinInstance_OnDisconnection",
+                [&] { ToolBarSave(ctx, ctx.VBInstance->CommandBars(), u""); });
+        ctx.TimerForm.reset();
+        AddInTerminate(ctx);
+    } catch (...) {
+    }
+    context_.reset();
+}
+
+void Connect::AddinInstance_OnAddInsUpdate() noexcept {
+    // Only an add-in connected after the editor's start shows its windows here; their
+    // visibility follows the settings.
+}
+
+basic::DispatchPtr& HostConnector::slot() {
+    switch (kind_) {
+    case ConnectorKind::Excel: return hostApps_->ExcelApp;
+    case ConnectorKind::Word: return hostApps_->WordApp;
+    default: return hostApps_->AccessApp;
+    }
+}
+
+void HostConnector::AddinInstance_OnConnection(const basic::DispatchPtr& application) noexcept {
+    ignoringErrors([&] {
+        if (application && basic::Like(application->TypeName(), u"Application")) slot() = application;
+    });
+}
+
+void HostConnector::AddinInstance_OnDisconnection() noexcept {
+    ignoringErrors([&] { slot().reset(); });
+}
+
+}  // namespace quillet::addin

@@ -1,0 +1,20 @@
+#include "addin/context.h"
+
+#include "addin/frm_timer.h"
+#include "addin/version.h"
+#include "basic/unicode.h"
+
+namespace quillet::addin {
+
+Context::Context(host::VBEPtr vbe, std::shared_ptr<platform::Platform> platform,
+                 std::shared_ptr<HostApplications> hostApps)
+    : VBInstance(std::move(vbe)), platform_(std::move(platform)), hostApps_(std::move(hostApps)) {}
+
+Context::~Context() = default;
+
+Str Context::Version() const {
+    return basic::u16(std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) + "." +
+                      std::to_string(kVersionRevision));
+}
+
+}  // namespace quillet::addin

@@ -1,0 +1,41 @@
+#include "addin/lifecycle.h"
+
+#include "addin/err_handler.h"
+#include "addin/frm_timer.h"
+#include "basic/strings.h"
+#include "source/keywords.h"
+
+namespace quillet::addin {
+
+namespace {
+
+// Outlook's main window stands in front of the editor; move it out of the way.
+void outlookStep(Context& ctx) {
+    if (basic::StrComp(ctx.HostName, u"Outlook", basic::Compare::Text) != 0) return;
+    ctx.Platform().CloseWindowOfClass(u"rctrl_renwnd32");
+    ctx.VBInstance->Windows()->Item(1)->SetFocus();
+}
+
+}  // namespace
+
+void AddInInitialize(Context& ctx) noexcept {
+    guarded(ctx, u"basGlobal.AddInInitialize", [&] { ctx.Keywords = source::keywordList(); });
+}
+
+void AddInTerminate(Context& ctx) noexcept {
+    ctx.ShortcutsDoc.reset();
+    ctx.CodeExplorerDoc.reset();
+    ctx.ShortcutsToolWindow.reset();
+    ctx.CodeExplorerToolWindow.reset();
+    ctx.TimerForm.reset();
+    ctx.hostApplications() = HostApplications{};
+    ctx.Keywords.clear();
+    ctx.VBInstance.reset();
+}
+
+void ProjectInitialize(Context& ctx, bool /*blnProjectOnly*/) noexcept {
+    guarded(ctx, u"basGlobal.ProjectInitialize", [&] { outlookStep(ctx); });
+    ++ctx.ProjectInitializeRuns;
+}
+
+}  // namespace quillet::addin

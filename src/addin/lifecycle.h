@@ -1,0 +1,15 @@
+#pragma once
+// Bringing the add-in's state up and down, and taking a fresh picture of the active project.
+
+#include "addin/context.h"
+
+namespace quillet::addin {
+
+// Settings, type prefixes, keywords and the code folders. Never throws.
+void AddInInitialize(Context& ctx) noexcept;
+// Drops every global object, VBInstance among the last. Never throws.
+void AddInTerminate(Context& ctx) noexcept;
+// Scans the active project; unless blnProjectOnly, the libraries too. Never throws.
+void ProjectInitialize(Context& ctx, bool blnProjectOnly) noexcept;
+
+}  // namespace quillet::addin

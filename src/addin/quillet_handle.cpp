@@ -1,0 +1,110 @@
+#include "addin/quillet_handle.h"
+
+#include <functional>
+
+#include "addin/block_commands.h"
+#include "addin/caret.h"
+#include "addin/err_handler.h"
+#include "basic/strings.h"
+#include "source/current_proc.h"
+
+namespace quillet::addin {
+
+namespace {
+
+using Action = std::function<void(Context&, const Str& command, const Str& type)>;
+
+struct Route {
+    const char16_t* command;
+    Action action;
+};
+
+void insertCommandText(Context& ctx, const Str& command, const Str&) { CodeInsert(ctx, command); }
+
+void exitProcedure(Context& ctx, const Str&, const Str&) {
+    Str name;
+    long body = 0, last = 0, kind = 0;
+    if (!source::CurrentProcGet(*ctx.VBInstance, true, name, body, last, kind)) return;
+    auto module = ctx.VBInstance->ActiveCodePane()->CodeModule();
+    Str keyword = source::ProcTypeStrOf(module->Lines(body, 1));
+    if (!keyword.empty()) CodeInsert(ctx, u"Exit " + keyword);
+}
+
+void ifBlock(Context& ctx, const Str& command, const Str&) { IfCodeInsert(ctx, command); }
+void loopBlock(Context& ctx, const Str& command, const Str&) { LoopCodeInsert(ctx, command); }
+
+// The commands whose dialogs, scans or tools are built elsewhere: they are known words and
+// leave the code as it is until those parts are there.
+void notAvailableYet(Context&, const Str&, const Str&) {}
+
+const std::vector<Route>& routes() {
+    static const std::vector<Route> table = {
+        {u"Dim", notAvailableYet},
+        {u"Const", notAvailableYet},
+        {u"Property", notAvailableYet},
+        {u"Enum", notAvailableYet},
+        {u"Type", notAvailableYet},
+        {u"GoTo", notAvailableYet},
+        {u"On Error GoTo", notAvailableYet},
+        {u"Resume ", notAvailableYet},
+        {u"With", notAvailableYet},
+        {u"Select From Enum", notAvailableYet},
+        {u"Insert Variable", notAvailableYet},
+        {u"Debug.Print ", notAvailableYet},
+        {u"Select Case", notAvailableYet},
+        {u"Select Case Else", notAvailableYet},
+        {u"Select Case UCase", notAvailableYet},
+        {u"On Error Resume Next", insertCommandText},
+        {u"On Error GoTo 0", insertCommandText},
+        {u"Resume", insertCommandText},
+        {u"Resume Next", insertCommandText},
+        {u"Exit For", insertCommandText},
+        {u"Exit", exitProcedure},
+        {u"ErrorHandling", notAvailableYet},
+        {u"If Then", ifBlock},
+        {u"If Then Else", ifBlock},
+        {u"If Then Else If", ifBlock},
+        {u"If Then ElseIf Else", ifBlock},
+        {u"End If", ifBlock},
+        {u"IfDoLoopUntil", loopBlock},
+        {u"IfDoLoopWhile", loopBlock},
+        {u"ForEachNext", loopBlock},
+        {u"ForNext", loopBlock},
+        {u"While", loopBlock},
+        {u"Explicit Argument", notAvailableYet},
+        {u"Filename", notAvailableYet},
+        {u"Folder", notAvailableYet},
+        {u"Comment Lines Add", notAvailableYet},
+        {u"Comment Lines Remove", notAvailableYet},
+        {u"Insert Objectname", notAvailableYet},
+    };
+    return table;
+}
+
+// Takes the state of one command afresh.
+void initialize(Context& ctx, const Str& command, const Str& type) {
+    ctx.Quick = QuickCommandState{command, type, {}, {}};
+}
+
+}  // namespace
+
+bool isQuickCommand(const Str& command) {
+    for (const auto& route : routes())
+        if (command == route.command) return true;
+    return false;
+}
+
+void QuilletHandle(Context& ctx, const Str& command, const Str& type) {
+    const Str where = u"basQuillet.QuilletHandle";
+    bool inCode = false;
+    if (!guarded(ctx, where, [&] { inCode = IsCodeContext(ctx); }) || !inCode) return;
+    ctx.CurrentCommand = command + u"." + type;
+    initialize(ctx, command, type);
+    for (const auto& route : routes()) {
+        if (command != route.command) continue;
+        guarded(ctx, where, [&] { route.action(ctx, command, type); });
+        return;
+    }
+}
+
+}  // namespace quillet::addin

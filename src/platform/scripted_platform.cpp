@@ -1,0 +1,121 @@
+#include "platform/scripted_platform.h"
+
+#include "basic/strings.h"
+
+namespace quillet::platform {
+
+using basic::Compare;
+using basic::LCase;
+
+namespace {
+
+struct NamedAnswer {
+    const char16_t* name;
+    int value;
+};
+constexpr NamedAnswer kAnswers[] = {
+    {u"ok", mb::vbOK},         {u"cancel", mb::vbCancel}, {u"abort", mb::vbAbort}, {u"retry", mb::vbRetry},
+    {u"ignore", mb::vbIgnore}, {u"yes", mb::vbYes},       {u"no", mb::vbNo},
+};
+
+std::optional<int> answerValue(const Str& name) {
+    Str lower = LCase(basic::Trim(name));
+    for (const auto& a : kAnswers)
+        if (lower == a.name) return a.value;
+    return std::nullopt;
+}
+
+Str answerName(int value) {
+    for (const auto& a : kAnswers)
+        if (a.value == value) return a.name;
+    return u"?";
+}
+
+Str registryKey(const Str& key, const Str& name) { return LCase(key + u"\\" + name); }
+
+}  // namespace
+
+ScriptedPlatform::ScriptedPlatform() = default;
+
+void ScriptedPlatform::queueAnswer(const Str& answer) { answers_.push_back(answer); }
+
+int ScriptedPlatform::MsgBox(const Str& prompt, int buttons, const Str& title) {
+    int answer = defaultAnswer(buttons);
+    if (!answers_.empty()) {
+        auto given = answerValue(answers_.front());
+        answers_.pop_front();
+        if (given && answerFits(buttons, *given)) answer = *given;
+    }
+    shown_.push_back({ShownBox::Kind::Message, prompt, title, buttons, {}, answerName(answer)});
+    return answer;
+}
+
+std::optional<Str> ScriptedPlatform::InputBox(const Str& prompt, const Str& title, const Str& defaultText) {
+    std::optional<Str> typed;
+    if (!answers_.empty()) {
+        Str given = answers_.front();
+        answers_.pop_front();
+        auto named = answerValue(given);
+        if (named == mb::vbOK)
+            typed = defaultText;
+        else if (named != mb::vbCancel)
+            typed = given;
+    }
+    shown_.push_back({ShownBox::Kind::Input, prompt, title, 0, defaultText, typed});
+    return typed;
+}
+
+void ScriptedPlatform::ClipboardClear() { clipboard_.reset(); }
+void ScriptedPlatform::ClipboardSetText(const Str& text) { clipboard_ = text; }
+std::optional<Str> ScriptedPlatform::ClipboardGetText() { return clipboard_; }
+
+void ScriptedPlatform::SendKeys(const Str& keys, bool /*wait*/) {
+    keys_.push_back(keys);
+    if (keys == u"^v" && clipboard_ && pasteSink) pasteSink(*clipboard_);
+}
+
+void ScriptedPlatform::setRegistryValue(const Str& key, const Str& name, const Str& value) {
+    registry_[registryKey(key, name)] = value;
+}
+
+std::optional<Str> ScriptedPlatform::RegistryValue(const Str& key, const Str& name) {
+    auto it = registry_.find(registryKey(key, name));
+    if (it == registry_.end()) return std::nullopt;
+    return it->second;
+}
+
+Str ScriptedPlatform::GetSetting(const Str& app, const Str& section, const Str& key, const Str& defaultValue) {
+    auto it = settings_.find(LCase(app + u"\\" + section + u"\\" + key));
+    return it == settings_.end() ? defaultValue : it->second;
+}
+
+void ScriptedPlatform::SaveSetting(const Str& app, const Str& section, const Str& key, const Str& value) {
+    settings_[LCase(app + u"\\" + section + u"\\" + key)] = value;
+}
+
+long long ScriptedPlatform::GetFocus() { return focusGetter ? focusGetter() : focus_; }
+
+void ScriptedPlatform::SetFocus(long long window) {
+    if (focusSetter)
+        focusSetter(window);
+    else
+        focus_ = window;
+}
+
+void ScriptedPlatform::Hourglass(bool on) { hourglass_ = on; }
+
+void ScriptedPlatform::addFile(const Str& path) {
+    if (!FileExists(path)) files_.push_back(path);
+}
+
+void ScriptedPlatform::removeFile(const Str& path) {
+    std::erase_if(files_, [&](const Str& f) { return basic::StrComp(f, path, Compare::Text) == 0; });
+}
+
+bool ScriptedPlatform::FileExists(const Str& path) {
+    for (const auto& f : files_)
+        if (basic::StrComp(f, path, Compare::Text) == 0) return true;
+    return false;
+}
+
+}  // namespace quillet::platform
