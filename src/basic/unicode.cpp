@@ -51,36 +51,64 @@ std::string toUtf8(std::u16string_view text) {
     return out;
 }
 
+namespace {
+
+// A lead byte's sequence length and the range its second byte must fall in (which rules out
+// overlong forms, surrogates and code points past U+10FFFF); 0 for a byte that cannot lead.
+struct Lead {
+    int length;
+    unsigned char low;
+    unsigned char high;
+};
+
+Lead leadOf(unsigned char b) {
+    if (b < 0x80) return {1, 0, 0};
+    if (b >= 0xC2 && b <= 0xDF) return {2, 0x80, 0xBF};
+    if (b == 0xE0) return {3, 0xA0, 0xBF};
+    if (b == 0xED) return {3, 0x80, 0x9F};
+    if (b >= 0xE1 && b <= 0xEF) return {3, 0x80, 0xBF};
+    if (b == 0xF0) return {4, 0x90, 0xBF};
+    if (b >= 0xF1 && b <= 0xF3) return {4, 0x80, 0xBF};
+    if (b == 0xF4) return {4, 0x80, 0x8F};
+    return {0, 0, 0};
+}
+
+}  // namespace
+
+// Each maximal ill-formed part (a bad lead byte, or a sequence cut short) becomes one U+FFFD,
+// the practice the Unicode standard recommends.
 Str fromUtf8(std::string_view text) {
     Str out;
     out.reserve(text.size());
     size_t i = 0;
     while (i < text.size()) {
         unsigned char b = static_cast<unsigned char>(text[i]);
-        int extra = b < 0x80 ? 0 : (b >> 5) == 6 ? 1 : (b >> 4) == 14 ? 2 : (b >> 3) == 30 ? 3 : -1;
-        if (extra < 0 || i + extra >= text.size()) {
+        Lead lead = leadOf(b);
+        if (lead.length == 1) {
+            out += static_cast<char16_t>(b);
+            ++i;
+            continue;
+        }
+        if (lead.length == 0) {
             out += u'\uFFFD';
             ++i;
             continue;
         }
-        char32_t cp = extra == 0 ? b : (b & (0x3F >> extra));
-        bool ok = true;
-        for (int k = 1; k <= extra; ++k) {
+        char32_t cp = b & (0x7F >> lead.length);
+        size_t k = 1;
+        for (; k < static_cast<size_t>(lead.length) && i + k < text.size(); ++k) {
             unsigned char c = static_cast<unsigned char>(text[i + k]);
-            if ((c & 0xC0) != 0x80) {
-                ok = false;
-                break;
-            }
+            unsigned char low = k == 1 ? lead.low : 0x80;
+            unsigned char high = k == 1 ? lead.high : 0xBF;
+            if (c < low || c > high) break;
             cp = (cp << 6) | (c & 0x3F);
         }
-        static constexpr char32_t minimum[] = {0, 0x80, 0x800, 0x10000};
-        if (!ok || cp < minimum[extra] || cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF)) {
+        if (k < static_cast<size_t>(lead.length)) {
             out += u'\uFFFD';
-            ++i;
-            continue;
+        } else {
+            appendUtf16(out, cp);
         }
-        appendUtf16(out, cp);
-        i += extra + 1;
+        i += k;
     }
     return out;
 }
