@@ -1,0 +1,2 @@
+// The quillet tool: see cli/tool.h.
+int main() { return 0; }
