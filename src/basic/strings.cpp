@@ -16,18 +16,31 @@ Str folded(const Str& text) {
     return out;
 }
 
-// The 0-based index of the first match of `find` at or after `from`, or npos. Searching folded
-// copies keeps every index the same as in the original text, since folding maps one unit to one.
-size_t findFrom(const Str& text, const Str& find, size_t from, Compare compare) {
-    if (compare == Compare::Binary) return text.find(find, from);
-    return folded(text).find(folded(find), from);
-}
+// Finds `find` in `text` repeatedly. Text compare searches case-folded copies made once; the
+// indexes are the same as in the original text, since folding maps one unit to one unit.
+class Finder {
+public:
+    Finder(const Str& text, const Str& find, Compare compare) : text_(&text), find_(&find) {
+        if (compare == Compare::Text) {
+            foldedText_ = folded(text);
+            foldedFind_ = folded(find);
+            text_ = &foldedText_;
+            find_ = &foldedFind_;
+        }
+    }
+    Finder(const Finder&) = delete;
+    Finder& operator=(const Finder&) = delete;
+    // The 0-based index of the first match at or after `from`, or npos.
+    size_t next(size_t from) const { return text_->find(*find_, from); }
+    // The 0-based index of the last match starting at or before `from`, or npos.
+    size_t last(size_t from) const { return text_->rfind(*find_, from); }
 
-// The 0-based index of the last match of `find` starting at or before `from`, or npos.
-size_t findLastFrom(const Str& text, const Str& find, size_t from, Compare compare) {
-    if (compare == Compare::Binary) return text.rfind(find, from);
-    return folded(text).rfind(folded(find), from);
-}
+private:
+    const Str* text_;
+    const Str* find_;
+    Str foldedText_;
+    Str foldedFind_;
+};
 
 }  // namespace
 
@@ -62,7 +75,7 @@ long InStr(long start, const Str& text, const Str& find, Compare compare) {
     if (start < 1) invalidCall();
     if (text.empty() || start > Len(text)) return 0;
     if (find.empty()) return start;
-    size_t at = findFrom(text, find, start - 1, compare);
+    size_t at = Finder(text, find, compare).next(start - 1);
     return at == Str::npos ? 0 : static_cast<long>(at) + 1;
 }
 
@@ -73,7 +86,7 @@ long InStrRev(const Str& text, const Str& find, long start, Compare compare) {
     if (start > Len(text)) return 0;
     if (find.empty()) return start;
     if (Len(find) > start) return 0;
-    size_t at = findLastFrom(text, find, start - Len(find), compare);
+    size_t at = Finder(text, find, compare).last(start - Len(find));
     return at == Str::npos ? 0 : static_cast<long>(at) + 1;
 }
 
@@ -94,10 +107,11 @@ Str Replace(const Str& text, const Str& find, const Str& replacement, long start
     if (static_cast<size_t>(start) > text.size()) return {};
     Str rest = text.substr(start - 1);
     if (find.empty() || count == 0) return rest;
+    Finder finder(rest, find, compare);
     Str out;
     size_t from = 0;
     for (long done = 0; count == -1 || done < count; ++done) {
-        size_t at = findFrom(rest, find, from, compare);
+        size_t at = finder.next(from);
         if (at == Str::npos) break;
         out.append(rest, from, at - from);
         out += replacement;
@@ -112,9 +126,10 @@ std::vector<Str> Split(const Str& text, const Str& delimiter, long limit, Compar
     std::vector<Str> parts;
     if (text.empty() || limit == 0) return parts;
     if (delimiter.empty()) return {text};
+    Finder finder(text, delimiter, compare);
     size_t from = 0;
     while (limit == -1 || static_cast<long>(parts.size()) < limit - 1) {
-        size_t at = findFrom(text, delimiter, from, compare);
+        size_t at = finder.next(from);
         if (at == Str::npos) break;
         parts.push_back(text.substr(from, at - from));
         from = at + delimiter.size();

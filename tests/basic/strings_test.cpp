@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <random>
 
 #include "basic/test_helpers.h"
@@ -179,6 +180,15 @@ TEST(BasicStrings, ReplaceStartsResultAtStart) {
     EXPECT_EQ(Replace(u"abc", u"a", u"X", 4), u"");
     EXPECT_EQ(errorNumberOf([] { Replace(u"abc", u"a", u"X", 0); }), err::InvalidCall);
     EXPECT_EQ(errorNumberOf([] { Replace(u"abc", u"a", u"X", 1, -2); }), err::InvalidCall);
+}
+
+TEST(BasicStrings, TextCompareOnLongTextStaysLinear) {
+    Str text = String(200000, u'a');
+    auto started = std::chrono::steady_clock::now();
+    EXPECT_EQ(Replace(text, u"A", u"b", 1, -1, Compare::Text), String(200000, u'b'));
+    EXPECT_EQ(Split(text, u"A", -1, Compare::Text).size(), 200001u);
+    auto elapsed = std::chrono::steady_clock::now() - started;
+    EXPECT_LT(std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count(), 2000);
 }
 
 TEST(BasicStrings, SplitPieces) {
