@@ -21,6 +21,10 @@ using Variant = std::variant<Empty, bool, long long, double, Str, DispatchPtr>;
 inline bool isEmpty(const Variant& v) { return std::holds_alternative<Empty>(v); }
 
 // Basic's conversions; a value that does not convert raises 13 (Type mismatch).
+// CStr prints a Double as Basic does: up to 15 significant digits ("0.1", "0.333333333333333"),
+// the E form outside 1E-5 to 1E+15 ("1E+20", "1E-05"). CLng rounds half to even, reads strings
+// as IsNumeric accepts them (13 otherwise), True is -1, and a value outside 64 bits raises 6.
+// CBool reads "True" and "False" in any case, or a numeric string.
 Str CStr(const Variant& v);
 long long CLng(const Variant& v);
 bool CBool(const Variant& v);

@@ -105,32 +105,66 @@ TEST(BasicLike, ManyStarsStayFast) {
     EXPECT_LT(std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count(), 1000);
 }
 
-// A plain recursive matcher for patterns without lists, written from the operator's definition.
-bool referenceLike(const Str& text, size_t t, const Str& pattern, size_t p) {
+// A plain recursive matcher written from the operator's definition; -1 for an invalid pattern.
+int referenceLike(const Str& text, size_t t, const Str& pattern, size_t p) {
     if (p == pattern.size()) return t == text.size();
     char16_t c = pattern[p];
     if (c == u'*') {
-        for (size_t k = t; k <= text.size(); ++k)
-            if (referenceLike(text, k, pattern, p + 1)) return true;
-        return false;
+        int result = 0;
+        for (size_t k = t; k <= text.size() && result == 0; ++k) result = referenceLike(text, k, pattern, p + 1);
+        return result;
     }
-    if (t == text.size()) return false;
+    if (c == u'[') {
+        size_t close = pattern.find(u']', p + 1);
+        if (close == Str::npos) return -1;
+        Str list = pattern.substr(p + 1, close - p - 1);
+        bool negated = !list.empty() && list[0] == u'!';
+        if (negated) list.erase(0, 1);
+        bool in = false;
+        for (size_t k = 0; k < list.size(); ++k) {
+            bool range = k + 2 < list.size() && list[k + 1] == u'-';
+            char16_t low = list[k], high = range ? list[k + 2] : list[k];
+            if (high < low) return -1;
+            if (t < text.size() && text[t] >= low && text[t] <= high) in = true;
+            if (range) k += 2;
+        }
+        if (list.empty() && !negated) return referenceLike(text, t, pattern, close + 1);
+        // The rest of the pattern must be valid even where this unit does not match.
+        int rest = referenceLike(text, t + (t < text.size()), pattern, close + 1);
+        if (rest < 0) return -1;
+        return t < text.size() && in != negated ? rest : 0;
+    }
+    if (t == text.size()) return referenceLike(Str(), 0, pattern.substr(p + 1), 0) < 0 ? -1 : 0;
     bool one = c == u'?' || (c == u'#' ? (text[t] >= u'0' && text[t] <= u'9') : text[t] == c);
-    return one && referenceLike(text, t + 1, pattern, p + 1);
+    int rest = referenceLike(text, t + 1, pattern, p + 1);
+    if (rest < 0) return -1;
+    return one ? rest : 0;
+}
+
+int likeOutcome(const Str& text, const Str& pattern) {
+    try {
+        return Like(text, pattern) ? 1 : 0;
+    } catch (const VbError& e) {
+        EXPECT_EQ(e.Number(), err::InvalidPattern);
+        return -1;
+    }
 }
 
 TEST(BasicLike, AgreesWithReferenceMatcherRandomised) {
     std::mt19937 random(7);
-    const Str textAlphabet = u"ab1";
-    const Str patternAlphabet = u"ab1*?#";
-    for (int round = 0; round < 5000; ++round) {
+    const Str textAlphabet = u"ab1-!";
+    const Str patternAlphabet = u"ab1*?#[]!-";
+    int valid = 0;
+    for (int round = 0; round < 20000; ++round) {
         Str text, pattern;
-        size_t textLength = random() % 9, patternLength = random() % 7;
+        size_t textLength = random() % 9, patternLength = random() % 8;
         for (size_t i = 0; i < textLength; ++i) text += textAlphabet[random() % textAlphabet.size()];
         for (size_t i = 0; i < patternLength; ++i) pattern += patternAlphabet[random() % patternAlphabet.size()];
-        EXPECT_EQ(Like(text, pattern), referenceLike(text, 0, pattern, 0))
-            << toUtf8(text) << " Like " << toUtf8(pattern);
+        int expected = referenceLike(text, 0, pattern, 0);
+        valid += expected >= 0;
+        EXPECT_EQ(likeOutcome(text, pattern), expected) << toUtf8(text) << " Like " << toUtf8(pattern);
     }
+    EXPECT_GT(valid, 10000);  // the draw exercises matching, not only pattern errors
 }
 
 TEST(BasicLike, ListOfOneAgreesWithLiteralRandomised) {
