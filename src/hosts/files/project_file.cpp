@@ -1,5 +1,6 @@
 #include "hosts/files/project_file.h"
 
+#include <algorithm>
 #include <array>
 
 #include "basic/strings.h"
@@ -98,6 +99,8 @@ std::vector<ProjectMember> ProjectFile::members() const {
         auto entry = keyValueOf(lines[i]);
         if (!entry || !isMemberKey(entry->key)) continue;
         size_t semicolon = entry->value.find(u';');
+        // "Document=Name" only declares a document module; "Document=Name; file" lists one.
+        if (same(entry->key, u"Document") && semicolon == Str::npos) continue;
         ProjectMember member{entry->key, {}, Trim(entry->value), i};
         if (semicolon != Str::npos) {
             member.name = Trim(entry->value.substr(0, semicolon));
@@ -109,6 +112,13 @@ std::vector<ProjectMember> ProjectFile::members() const {
     return out;
 }
 
+std::optional<ProjectMember> ProjectFile::memberAt(size_t line) const {
+    for (const ProjectMember& member : members()) {
+        if (member.line == line) return member;
+    }
+    return std::nullopt;
+}
+
 size_t ProjectFile::keyLinesEnd() const {
     for (size_t i = 0; i < lines.size(); ++i) {
         Str line = Trim(lines[i]);
@@ -118,6 +128,12 @@ size_t ProjectFile::keyLinesEnd() const {
 }
 
 ProjectFile parseProjectFile(const TextLines& text) { return ProjectFile{text.lines, text.layout}; }
+
+std::filesystem::path memberFilePath(const Str& file) {
+    Str portable = file;
+    std::replace(portable.begin(), portable.end(), u'\\', u'/');
+    return pathOf(portable);
+}
 
 bool isMemberKey(const Str& key) {
     for (const char16_t* memberKey : kMemberKeys) {

@@ -11,7 +11,7 @@
 //     Module=basMain; basMain.bas       the members, when the file lists them
 //     Class=clsInvoice; clsInvoice.cls
 //     Form=frmInvoice.frm
-//     Document=ThisWorkbook; ThisWorkbook.cls   a document module (manifests)
+//     Document=ThisWorkbook             a document module (or "Document=Name; file" to list it)
 //     UserControl= PropertyPage= UserDocument= Designer=   VB6 members
 
 #include <optional>
@@ -38,11 +38,16 @@ struct ProjectFile {
     std::optional<Str> value(const Str& key) const;
     std::vector<Str> values(const Str& key) const;
     std::vector<ProjectMember> members() const;
+    // The member listed on that line, if any.
+    std::optional<ProjectMember> memberAt(size_t line) const;
     // Index of the end of the key lines (the first "[section]" line, or the end).
     size_t keyLinesEnd() const;
 };
 
 ProjectFile parseProjectFile(const TextLines& text);
+
+// A member's file as the project file spells it ("..\Shared\basText.bas") as a path.
+std::filesystem::path memberFilePath(const Str& file);
 
 // Whether a key names a member ("Module", "Class", "Form" ...).
 bool isMemberKey(const Str& key);

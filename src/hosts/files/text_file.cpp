@@ -99,7 +99,18 @@ std::string readFileBytes(const std::filesystem::path& path) {
 }
 
 std::string displayPath(const std::filesystem::path& path) {
-    return path.generic_string();
+    std::u8string text = path.generic_u8string();
+    return std::string(text.begin(), text.end());
+}
+
+Str pathText(const std::filesystem::path& path) {
+    std::u8string text = path.u8string();
+    return basic::fromUtf8(std::string(text.begin(), text.end()));
+}
+
+std::filesystem::path pathOf(const Str& text) {
+    std::string bytes = basic::toUtf8(text);
+    return std::filesystem::path(std::u8string(bytes.begin(), bytes.end()));
 }
 
 }  // namespace quillet::hosts::files

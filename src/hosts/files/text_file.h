@@ -33,7 +33,10 @@ std::string writeTextLines(const std::vector<Str>& lines, const TextLayout& layo
 
 // The whole file; ProjectError when it cannot be read.
 std::string readFileBytes(const std::filesystem::path& path);
-// A path as the tool shows it.
+// A path as the tool shows it (UTF-8, with "/").
 std::string displayPath(const std::filesystem::path& path);
+// Paths and text, through UTF-8 whatever the system's code page.
+Str pathText(const std::filesystem::path& path);
+std::filesystem::path pathOf(const Str& text);
 
 }  // namespace quillet::hosts::files
