@@ -5,6 +5,7 @@
 #include "hosts/memory/code_pane.h"
 #include "hosts/memory/components.h"
 #include "hosts/memory/find.h"
+#include "hosts/memory/pin.h"
 #include "hosts/memory/vbe.h"
 
 namespace quillet::hosts::memory {
@@ -49,7 +50,10 @@ Str MemoryCodeModule::Name() {
     return component ? component->name() : Str();
 }
 
-host::VBComponentPtr MemoryCodeModule::Parent() { return component_.lock(); }
+host::VBComponentPtr MemoryCodeModule::Parent() {
+    auto component = component_.lock();
+    return component ? pinned(component->vbe(), component) : nullptr;
+}
 
 host::CodePanePtr MemoryCodeModule::CodePane() {
     auto component = component_.lock();

@@ -4,6 +4,7 @@
 
 #include "hosts/memory/code_module.h"
 #include "hosts/memory/components.h"
+#include "hosts/memory/pin.h"
 #include "hosts/memory/project.h"
 #include "hosts/memory/vbe.h"
 #include "hosts/memory/windows.h"
@@ -26,9 +27,9 @@ Str MemoryCodePane::caption() const {
     return project->name() + u" - " + component->name() + u" (Code)";
 }
 
-host::CodeModulePtr MemoryCodePane::CodeModule() { return module_; }
+host::CodeModulePtr MemoryCodePane::CodeModule() { return pinned(vbe_.lock(), module_); }
 
-host::WindowPtr MemoryCodePane::Window() { return window_; }
+host::WindowPtr MemoryCodePane::Window() { return pinned(vbe_.lock(), window_); }
 
 void MemoryCodePane::GetSelection(long& startLine, long& startCol, long& endLine, long& endCol) {
     startLine = selection_.startLine;
@@ -91,7 +92,7 @@ long MemoryCodePanes::Count() { return static_cast<long>(vbe_->panes().size()); 
 host::CodePanePtr MemoryCodePanes::Item(long index) {
     const auto& all = vbe_->panes();
     if (index < 1 || index > static_cast<long>(all.size())) throw VbError::standard(basic::err::SubscriptOutOfRange);
-    return all[index - 1];
+    return vbe_->pin(all[index - 1]);
 }
 
 }  // namespace quillet::hosts::memory

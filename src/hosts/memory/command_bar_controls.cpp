@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "hosts/memory/events.h"
+#include "hosts/memory/pin.h"
 #include "hosts/memory/text.h"
 
 namespace quillet::hosts::memory {
@@ -37,6 +38,9 @@ std::shared_ptr<MemoryCommandBarControl> MemoryCommandBarControls::addBuiltIn(lo
 }
 
 void MemoryCommandBarControls::remove(const MemoryCommandBarControl& control) {
+    auto vbe = vbeOf(bars_);
+    for (const auto& c : controls_)
+        if (c.get() == &control && vbe) vbe->retire(c);
     std::erase_if(controls_, [&control](const auto& c) { return c.get() == &control; });
 }
 
@@ -57,12 +61,12 @@ std::shared_ptr<MemoryCommandBarControl> MemoryCommandBarControls::find(long typ
 
 host::CommandBarControlPtr MemoryCommandBarControls::Item(long index) {
     if (index < 1 || index > Count()) throw invalidCall();
-    return controls_[index - 1];
+    return pinned(vbeOf(bars_), controls_[index - 1]);
 }
 
 host::CommandBarControlPtr MemoryCommandBarControls::Item(const Str& caption) {
     for (const auto& c : controls_)
-        if (sameText(withoutAccessKey(c->Caption()), withoutAccessKey(caption))) return c;
+        if (sameText(withoutAccessKey(c->Caption()), withoutAccessKey(caption))) return pinned(vbeOf(bars_), c);
     throw invalidCall();
 }
 
@@ -77,7 +81,7 @@ host::CommandBarControlPtr MemoryCommandBarControls::Add(long type, long id, boo
         if (!original) throw invalidCall();
         caption = original->Caption();
     }
-    return addBuiltIn(type, id, caption);
+    return pinned(vbeOf(bars_), addBuiltIn(type, id, caption));
 }
 
 // --- one control ---------------------------------------------------------------------------
@@ -103,7 +107,7 @@ long MemoryCommandBarControl::Index() {
 
 host::CommandBarControlsPtr MemoryCommandBarControl::Controls() {
     if (!controls_) throw notSupported();
-    return controls_;
+    return pinned(vbeOf(bars_), controls_);
 }
 
 void MemoryCommandBarControl::Caption(const Str& caption) {
@@ -248,7 +252,7 @@ void MemoryCommandBarControl::DropDownWidth(long width) {
 
 void MemoryCommandBarControl::Execute() {
     if (!enabled_) throw invalidCall();
-    auto self = shared_from_this();
+    auto self = pinned(vbeOf(bars_), shared_from_this());
     bool handled = false;
     bool cancelDefault = false;
     auto sinks = sinks_;  // a handler may connect or release sinks

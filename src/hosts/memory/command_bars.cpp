@@ -1,6 +1,7 @@
 #include "hosts/memory/command_bars.h"
 
 #include "hosts/memory/command_bar_controls.h"
+#include "hosts/memory/pin.h"
 #include "hosts/memory/text.h"
 #include "hosts/memory/vbe.h"
 
@@ -13,6 +14,11 @@ using basic::VbError;
 VbError invalidCall() { return VbError::standard(basic::err::InvalidCall); }
 
 }  // namespace
+
+std::shared_ptr<MemoryVBE> vbeOf(const std::weak_ptr<MemoryCommandBars>& bars) {
+    auto owner = bars.lock();
+    return owner ? owner->vbe() : nullptr;
+}
 
 void WriteCounter::count(const char* property) {
     ++byName_[property];
@@ -65,6 +71,9 @@ std::shared_ptr<MemoryCommandBar> MemoryCommandBars::bar(const Str& name) const 
 }
 
 void MemoryCommandBars::removeBar(const MemoryCommandBar& bar) {
+    auto owner = vbe();
+    for (const auto& b : bars_)
+        if (b.get() == &bar && owner) owner->retire(b);
     std::erase_if(bars_, [&bar](const auto& b) { return b.get() == &bar; });
 }
 
@@ -75,13 +84,13 @@ bool MemoryCommandBars::oldOfficeFaces() const {
 
 host::CommandBarPtr MemoryCommandBars::Item(long index) {
     if (index < 1 || index > Count()) throw invalidCall();
-    return bars_[index - 1];
+    return pinned(vbe(), bars_[index - 1]);
 }
 
 host::CommandBarPtr MemoryCommandBars::Item(const Str& name) {
     auto found = bar(name);
     if (!found) throw invalidCall();
-    return found;
+    return pinned(vbe(), found);
 }
 
 host::CommandBarPtr MemoryCommandBars::Add(const Str& name, long position, bool, bool) {
@@ -90,12 +99,12 @@ host::CommandBarPtr MemoryCommandBars::Add(const Str& name, long position, bool,
     for (long n = 1; actual.empty(); ++n)
         if (!bar(u"Custom " + numberText(n))) actual = u"Custom " + numberText(n);
     if (bar(actual)) throw invalidCall();
-    return addBar(actual, position, false);
+    return pinned(vbe(), addBar(actual, position, false));
 }
 
 host::CommandBarControlPtr MemoryCommandBars::FindControl(long type, long id) {
     for (const auto& b : bars_)
-        if (auto found = b->controls()->find(type, id)) return found;
+        if (auto found = b->controls()->find(type, id)) return pinned(vbe(), found);
     return nullptr;
 }
 
@@ -139,6 +148,6 @@ void MemoryCommandBar::Delete() {
     if (auto bars = bars_.lock()) bars->removeBar(*this);
 }
 
-host::CommandBarControlsPtr MemoryCommandBar::Controls() { return controls_; }
+host::CommandBarControlsPtr MemoryCommandBar::Controls() { return pinned(vbeOf(bars_), controls_); }
 
 }  // namespace quillet::hosts::memory

@@ -47,6 +47,10 @@ struct Face {
 };
 
 class MemoryCommandBar;
+class MemoryCommandBars;
+
+// The editor of these bars, or none when it is gone.
+std::shared_ptr<MemoryVBE> vbeOf(const std::weak_ptr<MemoryCommandBars>& bars);
 
 class MemoryCommandBars : public host::CommandBars, public std::enable_shared_from_this<MemoryCommandBars> {
 public:
@@ -62,6 +66,7 @@ public:
     // The face slot CopyFace fills and PasteFace reads (the clipboard, in Office).
     std::optional<Face>& faceSlot() { return faceSlot_; }
     bool oldOfficeFaces() const;
+    std::shared_ptr<MemoryVBE> vbe() const { return vbe_.lock(); }
 
     // host::CommandBars
     long Count() override { return static_cast<long>(bars_.size()); }

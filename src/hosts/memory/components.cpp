@@ -3,6 +3,7 @@
 #include "hosts/memory/code_module.h"
 #include "hosts/memory/code_pane.h"
 #include "hosts/memory/dispatch.h"
+#include "hosts/memory/pin.h"
 #include "hosts/memory/project.h"
 #include "hosts/memory/vbe.h"
 #include "hosts/memory/windows.h"
@@ -78,13 +79,13 @@ void MemoryComponent::Name(const Str& name) {
 
 host::CodeModulePtr MemoryComponent::CodeModule() {
     if (!codeModule_ && hasCode(type_)) codeModule_ = std::make_shared<MemoryCodeModule>(weak_from_this());
-    return codeModule_;
+    return pinned(vbe(), codeModule_);
 }
 
 basic::DispatchPtr MemoryComponent::Designer() {
     if (!hasDesigner()) return nullptr;
     if (!designer_) designer_ = std::make_shared<MemoryDispatch>(u"UserForm");
-    return designer_;
+    return pinned(vbe(), designer_);
 }
 
 host::WindowPtr MemoryComponent::DesignerWindow() {
@@ -96,7 +97,7 @@ host::WindowPtr MemoryComponent::DesignerWindow() {
 
 basic::DispatchPtr MemoryComponent::Properties() {
     if (!properties_) properties_ = std::make_shared<MemoryDispatch>(u"Properties");
-    return properties_;
+    return pinned(vbe(), properties_);
 }
 
 void MemoryComponent::Export(const Str& path) {
@@ -121,7 +122,7 @@ long MemoryComponents::Count() { return static_cast<long>(lockProject(project_)-
 host::VBComponentPtr MemoryComponents::Item(long index) {
     const auto& all = lockProject(project_)->components();
     if (index < 1 || index > static_cast<long>(all.size())) throw VbError::standard(basic::err::SubscriptOutOfRange);
-    return all[index - 1];
+    return pinned(project_->vbe(), all[index - 1]);
 }
 
 host::VBComponentPtr MemoryComponents::Item(const Str& name) {
@@ -154,7 +155,7 @@ host::VBComponentPtr MemoryComponents::Import(const Str& path) {
     lockProject(project_);
     auto vbe = project_->vbe();
     if (!vbe || !vbe->importer()) throw VbError::standard(basic::err::FileNotFound);
-    return vbe->importer()(*project_, path);
+    return pinned(vbe, vbe->importer()(*project_, path));
 }
 
 }  // namespace quillet::hosts::memory

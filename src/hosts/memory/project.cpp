@@ -3,6 +3,7 @@
 
 #include "hosts/memory/code_module.h"
 #include "hosts/memory/code_pane.h"
+#include "hosts/memory/pin.h"
 #include "hosts/memory/components.h"
 #include "hosts/memory/vbe.h"
 
@@ -68,7 +69,7 @@ std::shared_ptr<MemoryComponent> MemoryProject::addComponent(const Str& name, lo
     auto created = std::make_shared<MemoryComponent>(weak_from_this(), name, type);
     if (created->CodeModule()) created->codeModule()->setLines(lines);
     components_.push_back(created);
-    return created;
+    return pinned(vbe(), created);
 }
 
 std::shared_ptr<MemoryComponent> MemoryProject::addComponentText(const Str& name, long type, const Str& text) {
@@ -77,7 +78,7 @@ std::shared_ptr<MemoryComponent> MemoryProject::addComponentText(const Str& name
 
 std::shared_ptr<MemoryComponent> MemoryProject::component(const Str& name) const {
     for (const auto& c : components_)
-        if (sameText(c->name(), name)) return c;
+        if (sameText(c->name(), name)) return pinned(vbe(), c);
     return nullptr;
 }
 
@@ -87,6 +88,7 @@ void MemoryProject::removeComponent(const std::shared_ptr<MemoryComponent>& comp
         if (vbe->selectedComponent() == component) vbe->setSelectedComponent(nullptr);
     }
     std::erase(components_, component);
+    if (auto vbe = vbe_.lock()) vbe->retire(component);
 }
 
 Str MemoryProject::freeName(const Str& prefix) const {
@@ -111,17 +113,19 @@ Str MemoryProject::FileName() {
 
 host::VBComponentsPtr MemoryProject::VBComponents() {
     if (protection_ == host::vbext_pp_locked) throw protectedProjectError();
-    return std::make_shared<MemoryComponents>(shared_from_this());
+    return std::make_shared<MemoryComponents>(pinned(vbe(), shared_from_this()));
 }
 
-host::ReferencesPtr MemoryProject::References() { return std::make_shared<MemoryReferences>(shared_from_this()); }
+host::ReferencesPtr MemoryProject::References() {
+    return std::make_shared<MemoryReferences>(pinned(vbe(), shared_from_this()));
+}
 
 long MemoryProjects::Count() { return static_cast<long>(vbe_->projects().size()); }
 
 host::VBProjectPtr MemoryProjects::Item(long index) {
     const auto& all = vbe_->projects();
     if (index < 1 || index > static_cast<long>(all.size())) throw VbError::standard(basic::err::SubscriptOutOfRange);
-    return all[index - 1];
+    return vbe_->pin(all[index - 1]);
 }
 
 long MemoryReferences::Count() { return static_cast<long>(project_->references().size()); }

@@ -58,12 +58,12 @@ std::shared_ptr<MemoryProject> MemoryVBE::addProject(const Str& name, const Str&
     project->references() = standardReferences(hostName);
     projects_.push_back(project);
     if (!activeProject()) activeProject_ = project;
-    return project;
+    return pin(project);
 }
 
 std::shared_ptr<MemoryProject> MemoryVBE::project(const Str& name) const {
     for (const auto& p : projects_)
-        if (sameText(p->name(), name)) return p;
+        if (sameText(p->name(), name)) return pin(p);
     return nullptr;
 }
 
@@ -71,11 +71,12 @@ void MemoryVBE::removeProject(const std::shared_ptr<MemoryProject>& project) {
     for (const auto& component : project->components())
         if (auto pane = paneOf(*component)) closePane(pane);
     std::erase(projects_, project);
+    retire(project);
     if (activeProject() == project || !activeProject())
         activeProject_ = projects_.empty() ? nullptr : projects_.front();
 }
 
-std::shared_ptr<MemoryProject> MemoryVBE::activeProject() const { return activeProject_.lock(); }
+std::shared_ptr<MemoryProject> MemoryVBE::activeProject() const { return pin(activeProject_.lock()); }
 
 void MemoryVBE::setActiveProject(const std::shared_ptr<MemoryProject>& project) { activeProject_ = project; }
 
@@ -104,7 +105,7 @@ std::shared_ptr<MemoryCodePane> MemoryVBE::openPane(const std::shared_ptr<Memory
         setActivePane(pane);
         if (!modalDialog_) focus_ = pane->window()->hWnd();
     }
-    return pane;
+    return pin(pane);
 }
 
 std::shared_ptr<MemoryCodePane> MemoryVBE::openPane(const Str& componentName, bool activate) {
@@ -114,11 +115,11 @@ std::shared_ptr<MemoryCodePane> MemoryVBE::openPane(const Str& componentName, bo
 
 std::shared_ptr<MemoryCodePane> MemoryVBE::paneOf(const MemoryComponent& component) const {
     for (const auto& pane : panes_)
-        if (pane->codeModule() == component.codeModule()) return pane;
+        if (pane->codeModule() == component.codeModule()) return pin(pane);
     return nullptr;
 }
 
-std::shared_ptr<MemoryCodePane> MemoryVBE::activePane() const { return activePane_.lock(); }
+std::shared_ptr<MemoryCodePane> MemoryVBE::activePane() const { return pin(activePane_.lock()); }
 
 void MemoryVBE::setActivePane(const std::shared_ptr<MemoryCodePane>& pane) {
     activePane_ = pane;
@@ -135,6 +136,7 @@ void MemoryVBE::closePane(const std::shared_ptr<MemoryCodePane>& pane) {
     if (activeWindow() == pane->window()) activeWindow_.reset();
     if (focus_ == pane->window()->hWnd()) focus_ = mainWindow_->hWnd();
     std::erase(panes_, pane);
+    retire(pane);
 }
 
 void MemoryVBE::setActiveWindow(ActiveWindowKind kind) {
@@ -157,13 +159,13 @@ void MemoryVBE::setActiveWindow(ActiveWindowKind kind) {
 
 void MemoryVBE::setActiveWindow(const std::shared_ptr<MemoryWindow>& window) { activeWindow_ = window; }
 
-std::shared_ptr<MemoryWindow> MemoryVBE::activeWindow() const { return activeWindow_.lock(); }
+std::shared_ptr<MemoryWindow> MemoryVBE::activeWindow() const { return pin(activeWindow_.lock()); }
 
 void MemoryVBE::setSelectedComponent(const std::shared_ptr<MemoryComponent>& component) {
     selectedComponent_ = component;
 }
 
-std::shared_ptr<MemoryComponent> MemoryVBE::selectedComponent() const { return selectedComponent_.lock(); }
+std::shared_ptr<MemoryComponent> MemoryVBE::selectedComponent() const { return pin(selectedComponent_.lock()); }
 
 Str MemoryVBE::immediateText() const { return immediateWindow_->text(); }
 
@@ -173,6 +175,7 @@ std::vector<std::shared_ptr<MemoryWindow>> MemoryVBE::allWindows() const {
     std::vector<std::shared_ptr<MemoryWindow>> all{mainWindow_, projectWindow_, propertiesWindow_, immediateWindow_};
     for (const auto& pane : panes_) all.push_back(pane->window());
     all.insert(all.end(), extraWindows_.begin(), extraWindows_.end());
+    for (auto& window : all) window = pin(window);
     return all;
 }
 
@@ -183,7 +186,7 @@ std::shared_ptr<MemoryWindow> MemoryVBE::windowOf(host::WindowHandle handle) con
 }
 
 std::shared_ptr<MemoryWindow> MemoryVBE::designerWindowOf(const std::shared_ptr<MemoryComponent>& component) {
-    if (auto open = component->openDesignerWindow()) return open;
+    if (auto open = component->openDesignerWindow()) return pin(open);
     std::weak_ptr<MemoryComponent> weakComponent = component;
     auto window = std::make_shared<MemoryWindow>(
         weak_from_this(), host::vbext_wt_Designer,
@@ -200,10 +203,11 @@ std::shared_ptr<MemoryWindow> MemoryVBE::designerWindowOf(const std::shared_ptr<
         if (!vbe || !w) return;
         if (vbe->activeWindow() == w) vbe->activeWindow_.reset();
         std::erase(vbe->extraWindows_, w);
+        vbe->retire(w);
     });
     extraWindows_.push_back(window);
     component->setDesignerWindow(window);
-    return window;
+    return pin(window);
 }
 
 void MemoryVBE::setFocusedWindow(host::WindowHandle handle) { focus_ = handle; }
@@ -246,7 +250,7 @@ std::shared_ptr<MemoryWindow> MemoryVBE::createToolWindow(const Str& progId, con
     window->Visible(false);
     window->setDocument(docObj);
     extraWindows_.push_back(window);
-    return window;
+    return pin(window);
 }
 
 host::VBProjectPtr MemoryVBE::ActiveVBProject() { return activeProject(); }
@@ -256,8 +260,8 @@ host::CodePanesPtr MemoryVBE::CodePanes() { return std::make_shared<MemoryCodePa
 host::WindowPtr MemoryVBE::ActiveWindow() { return activeWindow(); }
 host::VBComponentPtr MemoryVBE::SelectedVBComponent() { return selectedComponent(); }
 host::WindowsPtr MemoryVBE::Windows() { return std::make_shared<MemoryWindows>(shared_from_this()); }
-host::WindowPtr MemoryVBE::MainWindow() { return mainWindow_; }
-host::CommandBarsPtr MemoryVBE::CommandBars() { return commandBars_; }
+host::WindowPtr MemoryVBE::MainWindow() { return mainWindow(); }
+host::CommandBarsPtr MemoryVBE::CommandBars() { return commandBars(); }
 host::EventsPtr MemoryVBE::Events() { return std::make_shared<MemoryEvents>(); }
 Str MemoryVBE::Version() { return options_.version; }
 

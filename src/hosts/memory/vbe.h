@@ -11,6 +11,11 @@
 //
 // Everything the logic sees goes through the abstract classes of host/objects.h; the members
 // in lowerCamelCase here are for tests and tools only.
+//
+// Lifetime works as with COM references: every object the editor hands out (through the
+// abstract classes or this API) keeps the whole editor alive while it is held, and an object
+// taken out of the editor (a removed component, a closed pane, a deleted control) stays usable
+// by whoever still holds it.
 
 #include <map>
 #include <memory>
@@ -80,9 +85,9 @@ public:
     void setSelectedComponent(const std::shared_ptr<MemoryComponent>& component);
     std::shared_ptr<MemoryComponent> selectedComponent() const;
 
-    std::shared_ptr<MemoryWindow> mainWindow() const { return mainWindow_; }
-    std::shared_ptr<MemoryWindow> immediateWindow() const { return immediateWindow_; }
-    std::shared_ptr<MemoryWindow> projectWindow() const { return projectWindow_; }
+    std::shared_ptr<MemoryWindow> mainWindow() const { return pin(mainWindow_); }
+    std::shared_ptr<MemoryWindow> immediateWindow() const { return pin(immediateWindow_); }
+    std::shared_ptr<MemoryWindow> projectWindow() const { return pin(projectWindow_); }
     // What was pasted into the Immediate window so far.
     Str immediateText() const;
     void clearImmediate();
@@ -115,10 +120,17 @@ public:
     std::shared_ptr<MemoryWindow> createToolWindow(const Str& progId, const Str& caption, basic::DispatchPtr& docObj);
 
     // --- command bars ---------------------------------------------------------------------
-    std::shared_ptr<MemoryCommandBars> commandBars() const { return commandBars_; }
+    std::shared_ptr<MemoryCommandBars> commandBars() const { return pin(commandBars_); }
 
     // --- internal -------------------------------------------------------------------------
     host::WindowHandle newHandle() { return nextHandle_ += 2; }
+    // The object, as a reference that keeps this editor alive.
+    template <class T>
+    std::shared_ptr<T> pin(const std::shared_ptr<T>& object) const {
+        return object ? std::shared_ptr<T>(shared_from_this(), object.get()) : nullptr;
+    }
+    // Keeps an object taken out of the editor alive as long as the editor.
+    void retire(std::shared_ptr<void> object) { retired_.push_back(std::move(object)); }
     // What Window.SetFocus does: the window gets the focus and becomes the active window (a
     // code window's pane the active pane), unless a modal dialog holds the focus.
     void focusWindow(const std::shared_ptr<MemoryWindow>& window);
@@ -161,6 +173,7 @@ private:
     Importer importer_;
     Exporter exporter_;
     std::map<Str, DocumentFactory> documentFactories_;  // by folded ProgId
+    std::vector<std::shared_ptr<void>> retired_;
 };
 
 }  // namespace quillet::hosts::memory
