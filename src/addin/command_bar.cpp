@@ -1,6 +1,10 @@
 #include "addin/command_bar.h"
 
+#include <map>
+
+#include "addin/command_handlers.h"
 #include "addin/err_handler.h"
+#include "addin/menu_commands.h"
 #include "basic/strings.h"
 #include "basic/unicode.h"
 #include "basic/variant.h"
@@ -11,6 +15,8 @@ namespace {
 
 constexpr char16_t kApp[] = u"Quillet";
 constexpr char16_t kSection[] = u"Quillet";
+constexpr char16_t kModule[] = u"basCommandBar.";
+constexpr long kAddControlId = 183;
 
 long settingNumber(Context& ctx, const Str& key, long defaultValue) {
     Str value = ctx.Platform().GetSetting(kApp, kSection, key, basic::u16(std::to_string(defaultValue)));
@@ -34,7 +40,36 @@ host::CommandBarPtr existingBar(const host::CommandBarsPtr& bars, const Str& nam
     return bar;
 }
 
+// Makes the control of one row; none when it could not be made (reported).
+host::CommandBarControlPtr rowCreate(Context& ctx, const host::CommandBarPtr& bar, const CommandRow& row,
+                                     const host::CommandBarControlPtr& parent) {
+    host::CommandBarControlPtr control;
+    guarded(ctx, Str(kModule) + u"ToolBarCreate", [&] {
+        control = AddMenuCommand(ctx, bar, row.id, row.type, row.beginGroup, row.faceId, parent, row.tooltip);
+    });
+    return control;
+}
+
+// The bars of a late-bound application object (Access's own), as the editor's bars are reached.
+host::CommandBarsPtr commandBarsOf(const basic::DispatchPtr& application) {
+    auto bars = std::dynamic_pointer_cast<host::CommandBars>(basic::CObj(application->Get(u"CommandBars")));
+    if (!bars) throw basic::VbError::standard(basic::err::TypeMismatch);
+    return bars;
+}
+
+bool hasControlTagged(const host::CommandBarPtr& bar, const Str& tag) {
+    auto controls = bar->Controls();
+    for (long i = 1; i <= controls->Count(); ++i)
+        if (controls->Item(i)->Tag() == tag) return true;
+    return false;
+}
+
 }  // namespace
+
+CommandBarState& commandBarState(Context& ctx) {
+    if (!ctx.commandBar) ctx.commandBar = std::make_shared<CommandBarState>();
+    return *ctx.commandBar;
+}
 
 host::CommandBarPtr ToolBarCreate(Context& ctx, const host::CommandBarsPtr& bars, const Str& suffix) {
     long pos = settingNumber(ctx, u"ToolbarPos" + suffix, host::msoBarTop);
@@ -76,6 +111,88 @@ void CommandBarsEnable(Context& ctx, bool enabled) noexcept {
         auto control = ctx.VBInstance->CommandBars()->Item(u"Code Window")->Controls()->Item(u"Quillet Insert");
         control->Enabled(enabled);
     });
+}
+
+}  // namespace quillet::addin
+
+namespace quillet::addin {
+
+bool isMicrosoftAccess(Context& ctx) {
+    const auto& access = ctx.AccessApp();
+    if (!access) return false;
+    bool is = false;
+    ignoringErrors([&] {
+        is = basic::StrComp(basic::CStr(access->Get(u"Name")), u"Microsoft Access", basic::Compare::Text) == 0;
+    });
+    return is;
+}
+
+bool commandRowApplies(Context& ctx, const CommandRow& row) {
+    switch (row.condition) {
+    case CommandCondition::ObjectnameHost: return ctx.ExcelApp() || ctx.WordApp() || isMicrosoftAccess(ctx);
+    case CommandCondition::AccessHost: return isMicrosoftAccess(ctx);
+    case CommandCondition::TestingMode: return ctx.TestingMode;
+    default: return true;
+    }
+}
+
+void CommandTableCreate(Context& ctx, const host::CommandBarPtr& bar) noexcept {
+    auto& state = commandBarState(ctx);
+    const size_t first = state.controls.size();
+    std::map<long, host::CommandBarControlPtr> popups;
+    for (const auto& row : CommandTable()) {
+        if (!commandRowApplies(ctx, row)) continue;
+        host::CommandBarControlPtr parent;
+        if (row.parentId != popup::Bar) {
+            auto it = popups.find(row.parentId);
+            if (it == popups.end()) continue;
+            parent = it->second;
+        }
+        auto control = rowCreate(ctx, bar, row, parent);
+        if (!control) continue;
+        state.controls.push_back({&row, control});
+        if (row.type == host::msoControlPopup) popups[row.id] = control;
+        if (row.action == CommandAction::ErrorHandling)
+            guarded(ctx, Str(kModule) + u"ErrorHandlerList", [&] { ErrorHandlerList(ctx, control); });
+    }
+    for (size_t i = first; i < state.controls.size(); ++i) {
+        const auto& made = state.controls[i];
+        if (made.row->handler.empty()) continue;
+        guarded(ctx, Str(kModule) + u"ToolBarCreate",
+                [&] { CommandEventsConnect(ctx, made.control, made.row->handler); });
+    }
+}
+
+void ErrorHandlerList(Context& ctx, const host::CommandBarControlPtr& control) {
+    std::vector<Str> names;
+    if (ctx.ErrorHandlersList) names = ctx.ErrorHandlersList();
+    Str wanted = ctx.settingText ? ctx.settingText(u"Add Error Handling Procedure") : Str();
+    for (const auto& name : names) {
+        control->AddItem(name, control->ListCount() + 1);
+        if (basic::StrComp(name, wanted, basic::Compare::Text) == 0) control->ListIndex(control->ListCount());
+    }
+    control->Width(377);
+    control->DropDownWidth(240);
+}
+
+void AccessToolBarCreate(Context& ctx) noexcept {
+    guarded(ctx, Str(kModule) + u"AccessToolBarCreate", [&] {
+        if (!ctx.TestingMode || !ctx.AccessApp()) return;
+        auto project = ctx.VBInstance->ActiveVBProject();
+        if (!project) return;
+        if (basic::StrComp(project->References()->Item(2)->Name(), u"Access", basic::Compare::Text) != 0) return;
+        auto bar = ToolBarCreate(ctx, commandBarsOf(ctx.AccessApp()), basic::CStr(ctx.AccessApp()->Get(u"Name")));
+        if (hasControlTagged(bar, LoadResString(kAddControlId))) return;
+        auto control = AddMenuCommand(ctx, bar, kAddControlId, host::msoControlButton, false, kAddControlId);
+        commandBarState(ctx).controls.push_back({nullptr, control});
+        CommandEventsConnect(ctx, control, u"mnuhAddControl");
+    });
+}
+
+void CommandBarEventsRelease(Context& ctx) noexcept {
+    if (!ctx.commandBar) return;
+    for (const auto& sink : ctx.commandBar->sinks) ignoringErrors([&] { sink->Disconnect(); });
+    ctx.commandBar.reset();
 }
 
 }  // namespace quillet::addin

@@ -61,7 +61,9 @@ void Connect::bringUp(const host::VBEPtr& application, const basic::DispatchPtr&
     AddInInitialize(ctx);
     ctx.CurrentProjectFile.clear();
     ctx.TimerForm = std::make_unique<frmTimer>(ctx);
-    guarded(ctx, where, [&] { ToolBarCreate(ctx, ctx.VBInstance->CommandBars(), u""); });
+    host::CommandBarPtr bar;
+    guarded(ctx, where, [&] { bar = ToolBarCreate(ctx, ctx.VBInstance->CommandBars(), u""); });
+    if (bar) CommandTableCreate(ctx, bar);
     createToolWindows(addInInst);
     ignoringErrors([&] { platform.Hourglass(false); });
 }
@@ -81,6 +83,7 @@ void Connect::AddinInstance_OnDisconnection(long /*removeMode*/) noexcept {
     if (!context_) return;
     try {
         Context& ctx = *context_;
+        CommandBarEventsRelease(ctx);
         guarded(ctx, Str(kModule) + u"AddinInstance_OnDisconnection",
                 [&] { ToolBarSave(ctx, ctx.VBInstance->CommandBars(), u""); });
         ctx.TimerForm.reset();

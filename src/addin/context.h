@@ -3,6 +3,7 @@
 // everything the add-in keeps between commands. Members keep the system's names.
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -16,6 +17,7 @@ using basic::Str;
 
 class Connect;
 class frmTimer;
+struct CommandBarState;
 
 // What the quick commands keep between the steps of one command: taken afresh for each.
 struct QuickCommandState {
@@ -28,10 +30,7 @@ struct QuickCommandState {
 // The Office application objects that the connectors hold. They live beside the connection,
 // because Office may load a connector before or after the editor connects the add-in.
 struct HostApplications {
-    const basic::DispatchPtr& ExcelApp() const { return hostApps_->ExcelApp; }
-    const basic::DispatchPtr& WordApp() const { return hostApps_->WordApp; }
-    const basic::DispatchPtr& AccessApp() const { return hostApps_->AccessApp; }
-    HostApplications& hostApplications() { return *hostApps_; }
+    basic::DispatchPtr ExcelApp, WordApp, AccessApp;
 };
 
 class Context {
@@ -75,6 +74,23 @@ public:
     Str Version() const;
     // Support address in the first line of a report.
     Str SupportAddress = u"support@quillet.dev";
+    // The product's web site; the web commands add their page ("/support.htm") to it.
+    Str WebSite = u"https://quillet.dev";
+
+    // Routines of later layers by name, each taking one argument: the builders by their form
+    // name ("frmVar", "frmProcedure" ...) and the project commands ("ImportFile", "ExportFile",
+    // "LineNumbers", "AccessObjectInventory", "ControlsAddFormOpen", "frmTip"). The command
+    // handlers open them by name; a name nobody registered does nothing.
+    using Routine = std::function<void(Context& ctx, const Str& argument)>;
+    std::map<Str, Routine> routines;
+    // Supplied by the settings and scan layers; empty until they are: the names of the error
+    // handler templates (ErrorHandlersList), the current value of a setting as text by its item
+    // name, and whether "Explicit Argument" can complete an argument at the caret.
+    std::function<std::vector<Str>()> ErrorHandlersList;
+    std::function<Str(const Str& item)> settingText;
+    std::function<bool()> ExplicitArgumentAvailable;
+    // The command bar's controls and their click sinks, kept while connected.
+    std::shared_ptr<CommandBarState> commandBar;
 
 private:
     std::shared_ptr<platform::Platform> platform_;

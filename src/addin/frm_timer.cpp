@@ -1,5 +1,6 @@
 #include "addin/frm_timer.h"
 
+#include "addin/bar_state.h"
 #include "addin/command_bar.h"
 #include "addin/err_handler.h"
 #include "addin/lifecycle.h"
@@ -41,6 +42,7 @@ void watchProject(Context& ctx) {
         return;
     }
     CommandBarsEnable(ctx, true);
+    ToolbarStateSet(ctx);
     Str fileName = projectFileName(project);
     if (basic::StrComp(fileName, ctx.CurrentProjectFile, basic::Compare::Text) != 0) {
         ctx.CurrentProjectFile = fileName;

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "basic/dispatch.h"
 #include "basic/vb_error.h"
 
 namespace quillet::platform {
@@ -84,7 +85,28 @@ public:
     // FindWindowA(className) then CloseWindow on it (minimises a window that is in the way);
     // nothing when there is none.
     virtual void CloseWindowOfClass(const Str& className) = 0;
+
+    // The bitmap of a command bar face (or of its mask) as a picture object, for
+    // CommandBarControl.Picture and Mask. A face not in kFaceIds raises 326.
+    virtual basic::DispatchPtr FacePicture(long faceId, bool mask) = 0;
+    // Puts the bitmap of a face on the clipboard, where PasteFace takes it from. A face not in
+    // kFaceIds raises 326.
+    virtual void ClipboardSetFace(long faceId) = 0;
 };
+
+// The command bar faces that the add-in carries as bitmaps, each with its mask ("m" and the
+// number).
+inline constexpr long kFaceIds[] = {101, 102, 103, 104, 105, 106, 111, 181, 182, 183, 194, 195};
+inline bool faceExists(long faceId) {
+    for (long id : kFaceIds)
+        if (id == faceId) return true;
+    return false;
+}
+// What a resource (a face, a string) that does not exist raises: 326, as LoadResPicture does.
+inline basic::VbError resourceNotFound(long id) {
+    std::string digits = std::to_string(id);
+    return basic::VbError(326, u"Resource with identifier '" + Str(digits.begin(), digits.end()) + u"' not found");
+}
 
 // The editor's settings, read from kEditorSettingsKey.
 long editorTabWidth(Platform& platform);            // 4 when absent or not a positive number

@@ -35,6 +35,20 @@ Str registryKey(const Str& key, const Str& name) { return LCase(key + u"\\" + na
 
 }  // namespace
 
+basic::Variant ScriptedPicture::Get(const Str& member, const basic::Args&) {
+    if (basic::StrComp(member, u"FaceId", Compare::Text) == 0) return static_cast<long long>(faceId_);
+    if (basic::StrComp(member, u"IsMask", Compare::Text) == 0) return mask_;
+    throw basic::VbError::standard(basic::err::NotSupported);
+}
+
+void ScriptedPicture::Put(const Str&, const basic::Variant&, const basic::Args&) {
+    throw basic::VbError::standard(basic::err::NotSupported);
+}
+
+basic::Variant ScriptedPicture::Call(const Str&, const basic::Args&) {
+    throw basic::VbError::standard(basic::err::NotSupported);
+}
+
 ScriptedPlatform::ScriptedPlatform() = default;
 
 void ScriptedPlatform::queueAnswer(const Str& answer) { answers_.push_back(answer); }
@@ -65,8 +79,29 @@ std::optional<Str> ScriptedPlatform::InputBox(const Str& prompt, const Str& titl
     return typed;
 }
 
-void ScriptedPlatform::ClipboardClear() { clipboard_.reset(); }
-void ScriptedPlatform::ClipboardSetText(const Str& text) { clipboard_ = text; }
+void ScriptedPlatform::ClipboardClear() {
+    clipboard_.reset();
+    clipboardFace_ = 0;
+    if (faceSink) faceSink(nullptr);
+}
+
+void ScriptedPlatform::ClipboardSetText(const Str& text) {
+    clipboard_ = text;
+    clipboardFace_ = 0;
+    if (faceSink) faceSink(nullptr);
+}
+
+basic::DispatchPtr ScriptedPlatform::FacePicture(long faceId, bool mask) {
+    if (!faceExists(faceId)) throw resourceNotFound(faceId);
+    return std::make_shared<ScriptedPicture>(faceId, mask);
+}
+
+void ScriptedPlatform::ClipboardSetFace(long faceId) {
+    auto picture = FacePicture(faceId, false);
+    clipboard_.reset();
+    clipboardFace_ = faceId;
+    if (faceSink) faceSink(picture);
+}
 std::optional<Str> ScriptedPlatform::ClipboardGetText() { return clipboard_; }
 
 void ScriptedPlatform::SendKeys(const Str& keys, bool /*wait*/) {

@@ -22,6 +22,24 @@ struct ShownBox {
     std::optional<Str> answer;  // the text typed, or the answer's name ("yes", "cancel" ...)
 };
 
+// The picture of a command bar face (or of its mask), as FacePicture makes it.
+class ScriptedPicture : public basic::Dispatch {
+public:
+    ScriptedPicture(long faceId, bool mask) : faceId_(faceId), mask_(mask) {}
+    long faceId() const { return faceId_; }
+    bool isMask() const { return mask_; }
+
+    Str TypeName() const override { return u"Picture"; }
+    // "FaceId" and "IsMask" read back what the picture shows; other members raise 438.
+    basic::Variant Get(const Str& member, const basic::Args& args = {}) override;
+    void Put(const Str& member, const basic::Variant& value, const basic::Args& args = {}) override;
+    basic::Variant Call(const Str& member, const basic::Args& args = {}) override;
+
+private:
+    long faceId_;
+    bool mask_;
+};
+
 class ScriptedPlatform : public Platform {
 public:
     ScriptedPlatform();
@@ -45,6 +63,9 @@ public:
     std::function<long long()> focusGetter;
     std::function<void(long long)> focusSetter;
     std::function<void(const Str& text)> pasteSink;
+    // The picture the clipboard holds for the editor's PasteFace: a face after ClipboardSetFace,
+    // none once the clipboard is cleared or takes text.
+    std::function<void(const basic::DispatchPtr& face)> faceSink;
 
     int MsgBox(const Str& prompt, int buttons, const Str& title) override;
     std::optional<Str> InputBox(const Str& prompt, const Str& title, const Str& defaultText) override;
@@ -65,6 +86,10 @@ public:
     void ShellOpen(const Str& target) override { opened_.push_back(target); }
     void CloseWindowOfClass(const Str& className) override { closedWindowClasses_.push_back(className); }
     const std::vector<Str>& closedWindowClasses() const { return closedWindowClasses_; }
+    basic::DispatchPtr FacePicture(long faceId, bool mask) override;
+    void ClipboardSetFace(long faceId) override;
+    // The face on the clipboard, 0 for none.
+    long clipboardFace() const { return clipboardFace_; }
 
     bool hourglassOn() const { return hourglass_; }
     const std::vector<Str>& opened() const { return opened_; }
@@ -81,6 +106,7 @@ private:
     std::vector<Str> closedWindowClasses_;
     Str addinFolder_ = u"C:\\Quillet\\";
     Str tempFolder_ = u"C:\\Temp\\";
+    long clipboardFace_ = 0;
     long long focus_ = 0;
     bool hourglass_ = false;
 };
