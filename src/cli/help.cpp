@@ -1,0 +1,83 @@
+#include "cli/help.h"
+
+#include <string>
+
+#include "addin/version.h"
+
+namespace quillet::cli {
+
+namespace {
+
+constexpr const char* kToolHelp =
+    "Usage: quillet COMMAND [OPTIONS]\n"
+    "\n"
+    "Runs Quillet's commands on a Basic project kept as files: a folder of exported\n"
+    "modules (.bas, .cls, .frm) or a VB6 project (.vbp). Only the files that change\n"
+    "are written, each in its own code page and line ends.\n"
+    "\n"
+    "Commands:\n"
+    "  run      run a quick command at a place in a module\n"
+    "  list     list the modules of a project\n"
+    "  help     show the help of a command (quillet help run)\n"
+    "  version  show the version\n"
+    "\n"
+    "Options of every command:\n"
+    "  --project PATH     the project: a folder, or a .vbp file\n"
+    "  --code-page CP     the code page of module files: 1252 (the default) or 65001\n"
+    "  --help             show the help\n"
+    "\n"
+    "A folder may hold one project file (*.vbp). A VB6 project lists its members; in an\n"
+    "Office project's file, Name=, Host= (Excel, Word, Access, Outlook ...),\n"
+    "Reference= and Document= lines describe the project, and every module file of the\n"
+    "folder is loaded unless Module=, Class= or Form= lines list them.\n"
+    "\n"
+    "Exit codes: 0 success, 1 usage error, 2 the project cannot be read or written, or\n"
+    "the place given does not exist.\n";
+
+constexpr const char* kRunHelp =
+    "Usage: quillet run COMMAND [TYPE] --project PATH (--at PLACE | --select RANGE) [OPTIONS]\n"
+    "\n"
+    "Runs a quick command (\"If Then\", \"If Then Else\", \"ForNext\", \"On Error Resume Next\"\n"
+    "...) with the caret at PLACE, as if typed in the editor, then writes the changed files\n"
+    "and prints their names, one a line.\n"
+    "\n"
+    "Options:\n"
+    "  --project PATH        the project: a folder, or a .vbp file\n"
+    "  --at MODULE:LINE[:COL]\n"
+    "                        the caret (column 1 when left out)\n"
+    "  --select MODULE:L1:C1-L2:C2\n"
+    "                        a selection instead of a caret (the end column is exclusive)\n"
+    "  --answer VALUE        the answer to the next message or input box: ok, cancel,\n"
+    "                        yes, no, abort, retry, ignore, or the text typed; repeatable.\n"
+    "                        A message box with no answer left takes its default button,\n"
+    "                        an input box counts as Cancel\n"
+    "  --dry-run             print a unified diff of the changes and write nothing\n"
+    "  --settings DIR        the settings folder\n"
+    "  --code-page CP        the code page of module files: 1252 (the default) or 65001\n"
+    "\n"
+    "Errors the command reports go to standard error.\n"
+    "\n"
+    "Example:\n"
+    "  quillet run \"If Then Else\" --project examples/Invoicing --at basMain:12:5 --dry-run\n";
+
+constexpr const char* kListHelp =
+    "Usage: quillet list --project PATH [--code-page CP]\n"
+    "\n"
+    "Lists the modules of the project: name, type and number of lines.\n";
+
+}  // namespace
+
+std::string helpText(Verb verb) {
+    switch (verb) {
+        case Verb::Run: return kRunHelp;
+        case Verb::List: return kListHelp;
+        default: return kToolHelp;
+    }
+}
+
+std::string versionText() {
+    return "quillet " + std::to_string(addin::kVersionMajor) + "." + std::to_string(addin::kVersionMinor) + "." +
+           std::to_string(addin::kVersionRevision) + "\n";
+}
+
+}  // namespace quillet::cli

@@ -1,0 +1,53 @@
+#include "cli/tool.h"
+
+#include "basic/vb_error.h"
+#include "cli/help.h"
+#include "cli/options.h"
+#include "cli/run_command.h"
+#include "hosts/files/project_error.h"
+
+namespace quillet::cli {
+
+namespace {
+
+std::string helpHint(const std::vector<std::string>& args) {
+    bool verb = !args.empty() && (args[0] == "run" || args[0] == "list");
+    return verb ? "Try 'quillet " + args[0] + " --help'." : "Try 'quillet --help'.";
+}
+
+int dispatch(const ToolOptions& options, std::ostream& out, std::ostream& err) {
+    if (options.help || options.verb == Verb::Help) {
+        out << helpText(options.verb);
+        return kExitOk;
+    }
+    switch (options.verb) {
+        case Verb::Version: out << versionText(); return kExitOk;
+        case Verb::Run: return runCommand(options, out, err);
+        case Verb::List: return listModules(options, out);
+        default: return kExitOk;
+    }
+}
+
+}  // namespace
+
+int runTool(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+    ToolOptions options;
+    try {
+        options = parseArguments(args);
+    } catch (const UsageError& error) {
+        err << "quillet: " << error.what() << "\n" << helpHint(args) << "\n";
+        return kExitUsage;
+    }
+    try {
+        return dispatch(options, out, err);
+    } catch (const hosts::files::ProjectError& error) {
+        err << "quillet: " << error.what() << "\n";
+    } catch (const basic::VbError& error) {
+        err << "quillet: error " << error.Number() << ": " << basic::toUtf8(error.Description()) << "\n";
+    } catch (const std::exception& error) {
+        err << "quillet: " << error.what() << "\n";
+    }
+    return kExitProject;
+}
+
+}  // namespace quillet::cli

@@ -1,0 +1,21 @@
+#pragma once
+// The quillet tool, whole: runTool is main() without the process around it, so tests run it
+// with their own arguments and streams.
+//
+// Exit codes: 0 success, 1 a usage error, 2 a project that cannot be read or written, or a
+// caret (--at, --select) naming a module or a line that does not exist.
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace quillet::cli {
+
+constexpr int kExitOk = 0;
+constexpr int kExitUsage = 1;
+constexpr int kExitProject = 2;
+
+// `args` are the arguments after the program's name, in UTF-8.
+int runTool(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+
+}  // namespace quillet::cli
