@@ -38,9 +38,7 @@ std::shared_ptr<MemoryCommandBarControl> MemoryCommandBarControls::addBuiltIn(lo
 }
 
 void MemoryCommandBarControls::remove(const MemoryCommandBarControl& control) {
-    auto vbe = vbeOf(bars_);
-    for (const auto& c : controls_)
-        if (c.get() == &control && vbe) vbe->retire(c);
+    if (auto vbe = vbeOf(bars_)) return vbe->takeOut(controls_, &control);
     std::erase_if(controls_, [&control](const auto& c) { return c.get() == &control; });
 }
 

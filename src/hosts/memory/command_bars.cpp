@@ -71,10 +71,8 @@ std::shared_ptr<MemoryCommandBar> MemoryCommandBars::bar(const Str& name) const 
 }
 
 void MemoryCommandBars::removeBar(const MemoryCommandBar& bar) {
-    auto owner = vbe();
-    for (const auto& b : bars_)
-        if (b.get() == &bar && owner) owner->retire(b);
-    std::erase_if(bars_, [&bar](const auto& b) { return b.get() == &bar; });
+    if (auto owner = vbe()) owner->takeOut(bars_, &bar);
+    else std::erase_if(bars_, [&bar](const auto& b) { return b.get() == &bar; });
 }
 
 bool MemoryCommandBars::oldOfficeFaces() const {

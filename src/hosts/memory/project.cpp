@@ -87,8 +87,8 @@ void MemoryProject::removeComponent(const std::shared_ptr<MemoryComponent>& comp
         if (auto pane = vbe->paneOf(*component)) vbe->closePane(pane);
         if (vbe->selectedComponent() == component) vbe->setSelectedComponent(nullptr);
     }
-    std::erase(components_, component);
-    if (auto vbe = vbe_.lock()) vbe->retire(component);
+    if (auto vbe = vbe_.lock()) vbe->takeOut(components_, component.get());
+    else std::erase(components_, component);
 }
 
 Str MemoryProject::freeName(const Str& prefix) const {

@@ -70,8 +70,7 @@ std::shared_ptr<MemoryProject> MemoryVBE::project(const Str& name) const {
 void MemoryVBE::removeProject(const std::shared_ptr<MemoryProject>& project) {
     for (const auto& component : project->components())
         if (auto pane = paneOf(*component)) closePane(pane);
-    std::erase(projects_, project);
-    retire(project);
+    takeOut(projects_, project.get());
     if (activeProject() == project || !activeProject())
         activeProject_ = projects_.empty() ? nullptr : projects_.front();
 }
@@ -135,8 +134,7 @@ void MemoryVBE::closePane(const std::shared_ptr<MemoryCodePane>& pane) {
     if (activePane() == pane) activePane_.reset();
     if (activeWindow() == pane->window()) activeWindow_.reset();
     if (focus_ == pane->window()->hWnd()) focus_ = mainWindow_->hWnd();
-    std::erase(panes_, pane);
-    retire(pane);
+    takeOut(panes_, pane.get());
 }
 
 void MemoryVBE::setActiveWindow(ActiveWindowKind kind) {
@@ -202,8 +200,7 @@ std::shared_ptr<MemoryWindow> MemoryVBE::designerWindowOf(const std::shared_ptr<
         auto w = weakWindow.lock();
         if (!vbe || !w) return;
         if (vbe->activeWindow() == w) vbe->activeWindow_.reset();
-        std::erase(vbe->extraWindows_, w);
-        vbe->retire(w);
+        vbe->takeOut(vbe->extraWindows_, w.get());
     });
     extraWindows_.push_back(window);
     component->setDesignerWindow(window);

@@ -129,8 +129,17 @@ public:
     std::shared_ptr<T> pin(const std::shared_ptr<T>& object) const {
         return object ? std::shared_ptr<T>(shared_from_this(), object.get()) : nullptr;
     }
-    // Keeps an object taken out of the editor alive as long as the editor.
-    void retire(std::shared_ptr<void> object) { retired_.push_back(std::move(object)); }
+    // Takes the object out of the list that owns it, keeping it alive as long as the editor
+    // (whoever still holds it can go on using it).
+    template <class T>
+    void takeOut(std::vector<std::shared_ptr<T>>& owner, const void* object) {
+        for (auto it = owner.begin(); it != owner.end(); ++it) {
+            if (it->get() != object) continue;
+            retired_.push_back(std::move(*it));
+            owner.erase(it);
+            return;
+        }
+    }
     // What Window.SetFocus does: the window gets the focus and becomes the active window (a
     // code window's pane the active pane), unless a modal dialog holds the focus.
     void focusWindow(const std::shared_ptr<MemoryWindow>& window);

@@ -3,18 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "hosts/memory/memory_host.h"
+#include "hosts/memory/support.h"
 
 namespace quillet::hosts::memory {
 namespace {
 
-long errorOf(const std::function<void()>& call) {
-    try {
-        call();
-    } catch (const basic::VbError& e) {
-        return e.Number();
-    }
-    return 0;
-}
+using testing::errorOf;
 
 class MemoryCodeModuleTest : public ::testing::Test {
 protected:
