@@ -1,6 +1,7 @@
 #include "hosts/files/member_attributes.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace quillet::hosts::files {
 
@@ -10,6 +11,20 @@ using basic::StrComp;
 namespace {
 
 bool same(const Str& a, const Str& b) { return StrComp(a, b, Compare::Text) == 0; }
+
+// A word against one of Basic's keywords (ASCII), ignoring case, without building strings:
+// this runs on every line of every module loaded.
+bool isKeyword(const Str& word, std::u16string_view keyword) {
+    if (word.size() != keyword.size()) return false;
+    for (size_t i = 0; i < word.size(); ++i) {
+        char16_t c = word[i];
+        if (c >= u'a' && c <= u'z') c = static_cast<char16_t>(c - u'a' + u'A');
+        char16_t k = keyword[i];
+        if (k >= u'a' && k <= u'z') k = static_cast<char16_t>(k - u'a' + u'A');
+        if (c != k) return false;
+    }
+    return true;
+}
 
 bool isWordStart(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c == u'_' || c > 0x7F; }
 bool isWordChar(char16_t c) { return isWordStart(c) || (c >= u'0' && c <= u'9'); }
@@ -72,32 +87,32 @@ std::vector<Str> variableNames(const Str& list) {
     for (const Str& item : topLevelItems(list)) {
         Scanner scanner(item);
         Str name = scanner.word();
-        if (same(name, u"WithEvents")) name = scanner.word();
+        if (isKeyword(name, u"WithEvents")) name = scanner.word();
         if (!name.empty()) names.push_back(name);
     }
     return names;
 }
 
 bool isModifier(const Str& word) {
-    return same(word, u"Public") || same(word, u"Private") || same(word, u"Friend") || same(word, u"Global") ||
-           same(word, u"Static");
+    return isKeyword(word, u"Public") || isKeyword(word, u"Private") || isKeyword(word, u"Friend") || isKeyword(word, u"Global") ||
+           isKeyword(word, u"Static");
 }
 
 // Words after which a modifier does not start a variable list.
 bool isDeclarationKeyword(const Str& word) {
-    for (const char16_t* keyword : {u"Sub", u"Function", u"Property", u"Declare", u"Event", u"Type", u"Enum",
-                                    u"Const", u"Dim", u"WithEvents", u"Implements"}) {
-        if (same(word, keyword)) return true;
+    for (std::u16string_view keyword : {u"Sub", u"Function", u"Property", u"Declare", u"Event", u"Type", u"Enum",
+                                        u"Const", u"Dim", u"WithEvents", u"Implements"}) {
+        if (isKeyword(word, keyword)) return true;
     }
     return false;
 }
 
 Declaration procedureDeclaration(Scanner& scanner, const Str& keyword) {
-    if (same(keyword, u"Sub") || same(keyword, u"Function")) return {host::vbext_pk_Proc, {scanner.word()}, true};
+    if (isKeyword(keyword, u"Sub") || isKeyword(keyword, u"Function")) return {host::vbext_pk_Proc, {scanner.word()}, true};
     Str accessor = scanner.word();
-    long kind = same(accessor, u"Get")   ? host::vbext_pk_Get
-                : same(accessor, u"Let") ? host::vbext_pk_Let
-                : same(accessor, u"Set") ? host::vbext_pk_Set
+    long kind = isKeyword(accessor, u"Get")   ? host::vbext_pk_Get
+                : isKeyword(accessor, u"Let") ? host::vbext_pk_Let
+                : isKeyword(accessor, u"Set") ? host::vbext_pk_Set
                                          : kNoMember;
     if (kind == kNoMember) return {};
     return {kind, {scanner.word()}, true};
@@ -122,29 +137,39 @@ class StatementWalker {
 public:
     // Feeds one physical line; true when it ends a statement, whose declaration is then `last()`.
     bool feed(const Str& line) {
+        if (continues(line)) {
+            physical_.push_back(line);
+            return false;
+        }
+        if (physical_.empty()) {
+            analyse(line);
+            return true;
+        }
         physical_.push_back(line);
-        if (continues(line)) return false;
         Str logical;
         for (const Str& part : physical_) logical += withoutContinuation(part) + u" ";
-        last_ = declarationOf(logical, atModuleLevel_);
-
         physical_.clear();
-        updateLevel(logical);
+        analyse(logical);
         return true;
     }
     bool inStatement() const { return !physical_.empty(); }
     const Declaration& last() const { return last_; }
 
 private:
+    void analyse(const Str& logical) {
+        last_ = declarationOf(logical, atModuleLevel_);
+        updateLevel(logical);
+    }
+
     void updateLevel(const Str& logical) {
         Scanner scanner(logical);
         if (last_.opensProcedure) {
             atModuleLevel_ = false;
             return;
         }
-        if (same(scanner.word(), u"End")) {
+        if (isKeyword(scanner.word(), u"End")) {
             Str what = scanner.word();
-            if (same(what, u"Sub") || same(what, u"Function") || same(what, u"Property")) atModuleLevel_ = true;
+            if (isKeyword(what, u"Sub") || isKeyword(what, u"Function") || isKeyword(what, u"Property")) atModuleLevel_ = true;
         }
     }
 
@@ -176,18 +201,18 @@ Declaration declarationOf(const Str& logicalLine, bool atModuleLevel) {
         wordStart = scanner.position();
         word = scanner.word();
     }
-    if (same(word, u"Sub") || same(word, u"Function") || same(word, u"Property")) {
+    if (isKeyword(word, u"Sub") || isKeyword(word, u"Function") || isKeyword(word, u"Property")) {
         return procedureDeclaration(scanner, word);
     }
-    if (same(word, u"Declare")) {
+    if (isKeyword(word, u"Declare")) {
         Str next = scanner.word();
-        if (same(next, u"PtrSafe")) next = scanner.word();
+        if (isKeyword(next, u"PtrSafe")) next = scanner.word();
         return {host::vbext_pk_Proc, {scanner.word()}};
     }
-    if (same(word, u"Event")) return {host::vbext_pk_Proc, {scanner.word()}};
+    if (isKeyword(word, u"Event")) return {host::vbext_pk_Proc, {scanner.word()}};
     if (!atModuleLevel) return {};
-    if (same(word, u"Dim") || same(word, u"Const")) return {memory::kVariableMember, variableNames(scanner.rest())};
-    if (same(word, u"WithEvents") || (modified && !word.empty() && !isDeclarationKeyword(word))) {
+    if (isKeyword(word, u"Dim") || isKeyword(word, u"Const")) return {memory::kVariableMember, variableNames(scanner.rest())};
+    if (isKeyword(word, u"WithEvents") || (modified && !word.empty() && !isDeclarationKeyword(word))) {
         return {memory::kVariableMember, variableNames(logicalLine.substr(wordStart))};
     }
     return {};
@@ -195,7 +220,7 @@ Declaration declarationOf(const Str& logicalLine, bool atModuleLevel) {
 
 Str memberAttributeName(const Str& line) {
     Scanner scanner(line);
-    if (!same(scanner.word(), u"Attribute")) return {};
+    if (!isKeyword(scanner.word(), u"Attribute")) return {};
     Str name = scanner.word();
     bool dotFollows = scanner.position() < line.size() && line[scanner.position()] == u'.';
     return dotFollows ? name : Str();

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <map>
 
 #include "basic/strings.h"
 #include "hosts/files/file_project.h"
@@ -182,11 +183,13 @@ private:
         // The editor lists document modules first.
         std::stable_partition(order.begin(), order.end(),
                               [&](size_t i) { return isDocument(candidates[i].file, names[i]); });
+        std::map<Str, size_t> taken;  // by name in upper case, as names compare
         for (size_t i : order) {
-            if (auto taken = project.component(names[i])) {
+            auto [first, added] = taken.emplace(basic::UCase(names[i]), i);
+            if (!added) {
                 throw ProjectError(displayPath(result_->folder_ / candidates[i].file) + ": holds the module " +
-                                   basic::toUtf8(names[i]) + ", which " + displayPath(*fileOfName(taken)) +
-                                   " holds already");
+                                   basic::toUtf8(names[i]) + ", which " +
+                                   displayPath(result_->folder_ / candidates[first->second].file) + " holds already");
             }
             long type = isDocument(candidates[i].file, names[i]) ? host::vbext_ct_Document
                                                                  : componentTypeOf(files[i].metadata);
@@ -195,13 +198,6 @@ private:
             result_->modules_.push_back({component, candidates[i].file, names[i], std::move(files[i].code),
                                          std::move(files[i].metadata), files[i].layout, candidates[i].memberLine});
         }
-    }
-
-    std::optional<fs::path> fileOfName(const std::shared_ptr<memory::MemoryComponent>& component) const {
-        for (const auto& module : result_->modules_) {
-            if (module.component == component) return result_->folder_ / module.file;
-        }
-        return std::nullopt;
     }
 
     static Str nameOf(const Candidate& candidate, const ModuleFile& file) {

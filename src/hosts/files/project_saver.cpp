@@ -77,9 +77,8 @@ std::vector<FileChange> FileProject::changes() const {
         auto& component = *module.component;
         fs::path path = folder_ / module.file;
         bool present = std::find(components.begin(), components.end(), module.component) != components.end();
-        std::vector<Str> oldLines = moduleFileLines(module.metadata, module.code);
         if (!present) {
-            out.push_back({FileChange::Kind::Removed, path, oldLines, {}, {}});
+            out.push_back({FileChange::Kind::Removed, path, moduleFileLines(module.metadata, module.code), {}, {}});
             fs::path frx = fs::path(path).replace_extension(".frx");
             std::error_code ec;
             if (isForm(component.Type()) && fs::exists(frx, ec)) out.push_back({FileChange::Kind::Removed, frx, {}, {}, {}});
@@ -94,7 +93,8 @@ std::vector<FileChange> FileProject::changes() const {
         }
         if (!renamed && component.lines() == module.code && sameMetadata(component.metadata(), module.metadata)) continue;
         std::vector<Str> newLines = currentLines(component);
-        out.push_back({FileChange::Kind::Modified, path, oldLines, newLines, writeTextLines(newLines, module.layout)});
+        out.push_back({FileChange::Kind::Modified, path, moduleFileLines(module.metadata, module.code), newLines,
+                       writeTextLines(newLines, module.layout)});
     }
     for (const auto& component : components) {
         bool loaded = std::any_of(modules_.begin(), modules_.end(),
