@@ -5,6 +5,8 @@
 #include "addin/frm_timer.h"
 #include "addin/lifecycle.h"
 #include "basic/strings.h"
+#include "settings/catalogue.h"
+#include "settings/ini_vars.h"
 
 namespace quillet::addin {
 
@@ -25,6 +27,15 @@ host::WindowPtr createToolWindow(Context& ctx, const basic::DispatchPtr& addInIn
     return ctx.VBInstance->Windows()->CreateToolWindow(addInInst, spec.progId, spec.caption, spec.guidPosition, doc);
 }
 
+// The two dockable windows as the settings want them.
+void showToolWindowsPerSettings(Context& ctx) {
+    auto& settings = *ctx.IniSettings;
+    if (ctx.CodeExplorerToolWindow)
+        ctx.CodeExplorerToolWindow->Visible(settings::IniBool(settings, settings::iiViewCodeExplorerWindow));
+    if (ctx.ShortcutsToolWindow)
+        ctx.ShortcutsToolWindow->Visible(settings::IniBool(settings, settings::iiViewQuilletWindow));
+}
+
 }  // namespace
 
 Connect::Connect(std::shared_ptr<platform::Platform> platform, std::shared_ptr<HostApplications> hostApps)
@@ -41,6 +52,7 @@ void Connect::AddinInstance_OnConnection(const host::VBEPtr& application, long c
         connectMode_ = connectMode;
         context_ = std::make_unique<Context>(application, platform_, hostApps_);
         context_->ConnectInstance = this;
+        if (prepare_) prepare_(*context_);
         bringUp(application, addInInst);
     } catch (...) {
         // The editor switches an add-in off for good when its connection fails: never let it see one.
@@ -77,6 +89,7 @@ void Connect::createToolWindows(const basic::DispatchPtr& addInInst) {
     guarded(ctx, where, [&] {
         ctx.CodeExplorerToolWindow = createToolWindow(ctx, addInInst, kCodeExplorerWindow, ctx.CodeExplorerDoc);
     });
+    guarded(ctx, where, [&] { showToolWindowsPerSettings(ctx); });
 }
 
 void Connect::AddinInstance_OnDisconnection(long /*removeMode*/) noexcept {
@@ -94,8 +107,9 @@ void Connect::AddinInstance_OnDisconnection(long /*removeMode*/) noexcept {
 }
 
 void Connect::AddinInstance_OnAddInsUpdate() noexcept {
-    // Only an add-in connected after the editor's start shows its windows here; their
-    // visibility follows the settings.
+    // Only an add-in connected after the editor's start shows its windows here.
+    if (!context_ || connectMode_ != ext_cm_AfterStartup) return;
+    guarded(*context_, Str(kModule) + u"AddinInstance_OnAddInsUpdate", [&] { showToolWindowsPerSettings(*context_); });
 }
 
 basic::DispatchPtr& HostConnector::slot() {

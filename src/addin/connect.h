@@ -3,6 +3,7 @@
 // and answers the add-in manager. None of its entry points ever lets an exception out: the
 // editor's process must not fall over because of the add-in.
 
+#include <functional>
 #include <memory>
 
 #include "addin/context.h"
@@ -30,6 +31,10 @@ public:
     void AddinInstance_OnStartupComplete() noexcept {}
     void AddinInstance_OnBeginShutdown() noexcept {}
 
+    // Called with each new context before the add-in comes up (where the settings live, where
+    // reports go); the Windows shell and tests set it.
+    void prepareContext(std::function<void(Context&)> prepare) { prepare_ = std::move(prepare); }
+
     bool connected() const { return context_ != nullptr; }
     // The global state while connected.
     Context* context() { return context_.get(); }
@@ -42,6 +47,7 @@ private:
     std::shared_ptr<platform::Platform> platform_;
     std::shared_ptr<HostApplications> hostApps_;
     std::unique_ptr<Context> context_;
+    std::function<void(Context&)> prepare_;
     long connectMode_ = 0;
 };
 

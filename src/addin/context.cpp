@@ -8,7 +8,10 @@ namespace quillet::addin {
 
 Context::Context(host::VBEPtr vbe, std::shared_ptr<platform::Platform> platform,
                  std::shared_ptr<HostApplications> hostApps)
-    : VBInstance(std::move(vbe)), platform_(std::move(platform)), hostApps_(std::move(hostApps)) {}
+    : VBInstance(std::move(vbe)),
+      IniSettings(std::make_unique<settings::Settings>(*platform)),
+      platform_(std::move(platform)),
+      hostApps_(std::move(hostApps)) {}
 
 Context::~Context() = default;
 

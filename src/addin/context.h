@@ -10,6 +10,7 @@
 #include "basic/dispatch.h"
 #include "host/objects.h"
 #include "platform/platform.h"
+#include "settings/settings.h"
 
 namespace quillet::addin {
 
@@ -63,6 +64,8 @@ public:
     Str CurrentCommand;
     std::vector<Str> Keywords;
     QuickCommandState Quick;
+    // The current settings (IniItemValue) and type prefixes, with the services they use.
+    std::unique_ptr<settings::Settings> IniSettings;
 
     // How often ProjectInitialize has run in this connection (the timer's project watch is
     // judged by it).

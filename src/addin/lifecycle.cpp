@@ -3,6 +3,8 @@
 #include "addin/err_handler.h"
 #include "addin/frm_timer.h"
 #include "basic/strings.h"
+#include "settings/code_folders.h"
+#include "settings/ini_vars.h"
 #include "source/keywords.h"
 
 namespace quillet::addin {
@@ -19,7 +21,15 @@ void outlookStep(Context& ctx) {
 }  // namespace
 
 void AddInInitialize(Context& ctx) noexcept {
-    guarded(ctx, u"basGlobal.AddInInitialize", [&] { ctx.Keywords = source::keywordList(); });
+    const Str where = u"basGlobal.AddInInitialize";
+    auto& settings = *ctx.IniSettings;
+    settings.ReportError = [&ctx](const basic::VbError& error, const Str& source) {
+        HandleError(ctx, error, 0, source);
+    };
+    guarded(ctx, where, [&] { settings::InitializeGlobalVars(settings, true); });
+    guarded(ctx, where, [&] { settings::TypePrefixFromIniFile(settings); });
+    guarded(ctx, where, [&] { ctx.Keywords = source::keywordList(); });
+    guarded(ctx, where, [&] { settings::MakeCodeFolders(settings); });
 }
 
 void AddInTerminate(Context& ctx) noexcept {
@@ -30,6 +40,7 @@ void AddInTerminate(Context& ctx) noexcept {
     ctx.TimerForm.reset();
     ctx.hostApplications() = HostApplications{};
     ctx.Keywords.clear();
+    if (ctx.IniSettings) ctx.IniSettings->ReportError = nullptr;
     ctx.VBInstance.reset();
 }
 

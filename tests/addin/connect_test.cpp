@@ -2,8 +2,14 @@
 
 #include "addin/connect.h"
 
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+
 #include "addin/frm_timer.h"
 #include "addin_fixture.h"
+#include "settings/catalogue.h"
 
 namespace quillet::testing {
 namespace {
@@ -15,6 +21,15 @@ protected:
         platform = std::make_shared<platform::ScriptedPlatform>();
         wirePlatform(*platform, vbe);
         connect = std::make_unique<addin::Connect>(platform);
+        home = std::filesystem::temp_directory_path() /
+               ("quillet-connect-" + std::to_string(::getpid()) + "-" +
+                ::testing::UnitTest::GetInstance()->current_test_info()->name());
+        std::filesystem::remove_all(home);
+        connect->prepareContext([this](addin::Context& c) { c.IniSettings->SettingsFolder = home.string(); });
+    }
+    ~Connection() override {
+        connect.reset();
+        std::filesystem::remove_all(home);
     }
 
     addin::Context& ctx() { return *connect->context(); }
@@ -24,6 +39,7 @@ protected:
     std::shared_ptr<memory::MemoryVBE> vbe;
     std::shared_ptr<platform::ScriptedPlatform> platform;
     std::unique_ptr<addin::Connect> connect;
+    std::filesystem::path home;
 };
 
 TEST_F(Connection, BringsUpStateBarAndToolWindows) {
@@ -48,6 +64,30 @@ TEST_F(Connection, BringsUpStateBarAndToolWindows) {
     EXPECT_TRUE(bar()->Visible());
     EXPECT_FALSE(platform->hourglassOn());
     EXPECT_GT(ctx().ImmediateWindowHandle, 0);
+}
+
+TEST_F(Connection, LoadsTheSettingsAndMakesTheCodeFolders) {
+    connect->AddinInstance_OnConnection(vbe, addin::ext_cm_Startup, nullptr);
+    auto& settings = *ctx().IniSettings;
+    EXPECT_EQ(settings.IniItemValue.size(), static_cast<size_t>(settings::IniItemCount));
+    EXPECT_TRUE(std::filesystem::exists(home / "quillet" / "Fragments" / "ErrorHandlers"));
+    EXPECT_TRUE(std::filesystem::exists(home / "quillet" / "Templates"));
+    EXPECT_FALSE(ctx().ShortcutsToolWindow->Visible());  // the default
+}
+
+TEST_F(Connection, AddInsUpdateLeavesTheWindowsOfAStartupConnection) {
+    connect->AddinInstance_OnConnection(vbe, addin::ext_cm_Startup, nullptr);
+    ctx().IniSettings->IniItemValue[settings::iiViewQuilletWindow] = true;
+    connect->AddinInstance_OnAddInsUpdate();
+    EXPECT_FALSE(ctx().ShortcutsToolWindow->Visible());
+}
+
+TEST_F(Connection, AddInsUpdateShowsTheWindowsWhenConnectedAfterStartup) {
+    connect->AddinInstance_OnConnection(vbe, addin::ext_cm_AfterStartup, nullptr);
+    ctx().IniSettings->IniItemValue[settings::iiViewQuilletWindow] = true;
+    connect->AddinInstance_OnAddInsUpdate();
+    EXPECT_TRUE(ctx().ShortcutsToolWindow->Visible());
+    EXPECT_FALSE(ctx().CodeExplorerToolWindow->Visible());
 }
 
 TEST_F(Connection, FirstRunPutsTheBarOnTopInRowZero) {
