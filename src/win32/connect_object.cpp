@@ -17,6 +17,8 @@ ConnectObject::~ConnectObject() {
 
 HRESULT ConnectObject::OnConnection(IDispatch* application, long connectMode, IDispatch* addInInst, SAFEARRAY**) {
     try {
+        // Without the editor there is nothing to connect to.
+        if (!application) return S_OK;
         if (!connect_) {
             connect_ = std::make_unique<addin::Connect>(std::make_shared<platform::win::WinPlatform>(module().handle()),
                                                         module().hostApplications());

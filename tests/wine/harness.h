@@ -1,0 +1,37 @@
+#pragma once
+// The Wine harness: checks printed one per line as PASS or FAIL, and a summary.
+
+#include <cstdio>
+#include <string>
+
+namespace quillet::wine {
+
+class Checks {
+public:
+    void check(bool ok, const std::string& what, const std::string& detail = {}) {
+        if (ok) {
+            ++passed_;
+            std::printf("PASS  %s\n", what.c_str());
+        } else {
+            ++failed_;
+            std::printf("FAIL  %s%s%s\n", what.c_str(), detail.empty() ? "" : ": ", detail.c_str());
+        }
+        std::fflush(stdout);
+    }
+    void note(const std::string& text) {
+        std::printf("      %s\n", text.c_str());
+        std::fflush(stdout);
+    }
+    int passed() const { return passed_; }
+    int failed() const { return failed_; }
+
+private:
+    int passed_ = 0;
+    int failed_ = 0;
+};
+
+std::string narrow(const std::wstring& s);
+std::string narrow(const std::u16string& s);
+std::string hex(long value);
+
+}  // namespace quillet::wine
