@@ -8,6 +8,8 @@
 #include "basic/strings.h"
 #include "basic/unicode.h"
 #include "basic/variant.h"
+#include "settings/catalogue.h"
+#include "settings/ini_vars.h"
 
 namespace quillet::addin {
 
@@ -166,7 +168,7 @@ void CommandTableCreate(Context& ctx, const host::CommandBarPtr& bar) noexcept {
 void ErrorHandlerList(Context& ctx, const host::CommandBarControlPtr& control) {
     std::vector<Str> names;
     if (ctx.ErrorHandlersList) names = ctx.ErrorHandlersList();
-    Str wanted = ctx.settingText ? ctx.settingText(u"Add Error Handling Procedure") : Str();
+    Str wanted = ctx.IniSettings ? settings::IniText(*ctx.IniSettings, settings::iiAddErrorHandlingProcedure) : Str();
     for (const auto& name : names) {
         control->AddItem(name, control->ListCount() + 1);
         if (basic::StrComp(name, wanted, basic::Compare::Text) == 0) control->ListIndex(control->ListCount());

@@ -86,11 +86,10 @@ public:
     // handlers open them by name; a name nobody registered does nothing.
     using Routine = std::function<void(Context& ctx, const Str& argument)>;
     std::map<Str, Routine> routines;
-    // Supplied by the settings and scan layers; empty until they are: the names of the error
-    // handler templates (ErrorHandlersList), the current value of a setting as text by its item
-    // name, and whether "Explicit Argument" can complete an argument at the caret.
+    // Supplied by the layers that scan folders and code; empty until they are: the names of the
+    // error handler templates (ErrorHandlersList), and whether "Explicit Argument" can complete
+    // an argument at the caret (ExplicitArgumentAvailable).
     std::function<std::vector<Str>()> ErrorHandlersList;
-    std::function<Str(const Str& item)> settingText;
     std::function<bool()> ExplicitArgumentAvailable;
     // The command bar's controls and their click sinks, kept while connected.
     std::shared_ptr<CommandBarState> commandBar;

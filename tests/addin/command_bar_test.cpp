@@ -5,6 +5,8 @@
 #include "addin/connect.h"
 
 #include "command_fixture.h"
+#include "settings/catalogue.h"
+#include "settings/ini_vars.h"
 
 namespace quillet::testing {
 namespace {
@@ -179,7 +181,8 @@ TEST_F(CommandBar, EveryWiredControlHasItsSink) {
 
 TEST_F(CommandBar, ErrorHandlerListSelectsTheSettingIgnoringCase) {
     ctx->ErrorHandlersList = [] { return std::vector<Str>{u"ErrStandard", u"ErrMessage", u"ErrLog"}; };
-    ctx->settingText = [](const Str& item) { return item == u"Add Error Handling Procedure" ? u"errmessage" : u""; };
+    settings::SetDefaults(*ctx->IniSettings);
+    ctx->IniSettings->IniItemValue[settings::iiAddErrorHandlingProcedure] = Str(u"errmessage");
     build();
     auto list = control(u"&Quillet &Error &Add Error Handling");
     ASSERT_EQ(list->ListCount(), 3);
@@ -189,6 +192,12 @@ TEST_F(CommandBar, ErrorHandlerListSelectsTheSettingIgnoringCase) {
     EXPECT_EQ(list->Text(), u"ErrMessage");
     EXPECT_EQ(list->Width(), 377);
     EXPECT_EQ(list->DropDownWidth(), 240);
+}
+
+TEST_F(CommandBar, ErrorHandlerListSelectsTheSettingsDefault) {
+    ctx->ErrorHandlersList = [] { return std::vector<Str>{u"ErrStandard", u"On Error GoTo HandleError"}; };
+    build();
+    EXPECT_EQ(control(u"&Quillet &Error &Add Error Handling")->ListIndex(), 2);
 }
 
 TEST_F(CommandBar, ErrorHandlerListWithoutNamesIsEmptyAndSized) {

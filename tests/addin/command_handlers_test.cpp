@@ -5,6 +5,8 @@
 #include <stdexcept>
 
 #include "command_fixture.h"
+#include "settings/catalogue.h"
+#include "settings/ini_vars.h"
 
 namespace quillet::testing {
 namespace {
@@ -61,7 +63,8 @@ TEST_F(CommandHandlers, TypeEntriesPassTheirType) {
 
 TEST_F(CommandHandlers, ErrorHandlingPassesTheListsText) {
     ctx->ErrorHandlersList = [] { return std::vector<Str>{u"ErrStandard", u"ErrMessage", u"ErrLog"}; };
-    ctx->settingText = [](const Str&) { return Str(u"ErrMessage"); };
+    settings::SetDefaults(*ctx->IniSettings);
+    ctx->IniSettings->IniItemValue[settings::iiAddErrorHandlingProcedure] = Str(u"ErrMessage");
     openModule(procModule(), 5, 5);
     build();
     auto list = control(u"&Quillet &Error &Add Error Handling");
