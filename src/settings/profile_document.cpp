@@ -71,7 +71,7 @@ ProfileDocument ProfileDocument::parse(const Str& content) {
             pos = content.size();
         } else {
             line.text = content.substr(pos, nl - pos);
-            line.eol = u"\n";
+            line.eol.assign(1, u'\n');
             if (!line.text.empty() && line.text.back() == u'\r') {
                 line.text.pop_back();
                 line.eol = kCrLf;
