@@ -55,6 +55,9 @@ void removeClass(HKEY root, const ComClassInfo& c) {
     deleteTree(root, clsidKey(c));
     // The ProgID is shared by both builds: it stays while the other one is registered.
     if (!otherBuildRegistered(root, c)) deleteTree(root, progIdKey(c));
+    // A fresh profile gets its classes keys from the registration: they go with it.
+    deleteEmptyParents(root, clsidKey(c), L"Software");
+    deleteEmptyParents(root, progIdKey(c), L"Software");
 }
 
 bool sameFile(const std::wstring& a, const std::wstring& b) {

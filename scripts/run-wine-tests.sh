@@ -1,0 +1,86 @@
+#!/bin/sh
+# Builds Quillet.dll and the Wine harness for 64-bit and 32-bit Windows, then runs the harness
+# under Wine (in a virtual X server) against each DLL, in a fresh Wine prefix. Prints a summary
+# and exits non-zero when a build or a check fails.
+#
+#   scripts/run-wine-tests.sh [64] [32]      (both when none is named)
+#
+# Environment: QUILLET_JOBS (default 2), QUILLET_BUILD_TYPE (default Release).
+set -u
+
+ROOT=$(cd "$(dirname "$0")/.." && pwd)
+JOBS=${QUILLET_JOBS:-2}
+BUILD_TYPE=${QUILLET_BUILD_TYPE:-Release}
+ARCHS=${*:-64 32}
+
+export WINEDEBUG=-all
+export WINEDLLOVERRIDES="mscoree,mshtml="
+
+summary=""
+failed=0
+
+note() { printf '%s\n' "run-wine-tests: $*"; }
+
+# 32-bit programs need Wine's 32-bit half.
+canRun32() {
+    dpkg-query -W -f='${Status}' wine32:i386 2>/dev/null | grep -q "install ok installed"
+}
+
+buildArch() {
+    arch=$1
+    case $arch in
+        64) toolchain=mingw-w64-x86_64; dir=$ROOT/build-win64 ;;
+        32) toolchain=mingw-w64-i686; dir=$ROOT/build-win32 ;;
+    esac
+    start=$(date +%s)
+    cmake -S "$ROOT" -B "$dir" -DCMAKE_TOOLCHAIN_FILE="$ROOT/cmake/$toolchain.cmake" \
+        -DCMAKE_BUILD_TYPE="$BUILD_TYPE" -DQUILLET_TESTS=OFF -DQUILLET_BENCH=OFF >"$dir.configure.log" 2>&1 &&
+        cmake --build "$dir" -j"$JOBS" --target Quillet quillet_wine_harness >"$dir.build.log" 2>&1
+    status=$?
+    note "$arch-bit build took $(( $(date +%s) - start )) s"
+    if [ $status -ne 0 ]; then
+        tail -n 30 "$dir.build.log" "$dir.configure.log" 2>/dev/null
+    fi
+    return $status
+}
+
+runArch() {
+    arch=$1
+    dir=$ROOT/build-win$arch
+    prefix=$ROOT/build-wine/prefix$arch
+    rm -rf "$prefix"
+    mkdir -p "$ROOT/build-wine"
+    export WINEPREFIX="$prefix"
+    start=$(date +%s)
+    wineboot -i >/dev/null 2>&1
+    dll=$(winepath -w "$dir/Quillet.dll" 2>/dev/null)
+    log=$ROOT/build-wine/harness$arch.log
+    xvfb-run -a wine "$dir/tests/wine/quillet_wine_harness.exe" "$dll" >"$log" 2>&1
+    status=$?
+    wineserver -w 2>/dev/null
+    grep -E '^(FAIL  |      )' "$log" || true
+    tail -n 1 "$log"
+    note "$arch-bit harness took $(( $(date +%s) - start )) s (prefix included)"
+    return $status
+}
+
+for arch in $ARCHS; do
+    if ! buildArch "$arch"; then
+        summary="$summary\n  $arch-bit: BUILD FAILED"
+        failed=1
+        continue
+    fi
+    if [ "$arch" = 32 ] && ! canRun32; then
+        summary="$summary\n  32-bit: built, not run (wine32 is not installed)"
+        continue
+    fi
+    if runArch "$arch"; then
+        summary="$summary\n  $arch-bit: PASSED ($(grep -c '^PASS  ' "$ROOT/build-wine/harness$arch.log") checks)"
+    else
+        summary="$summary\n  $arch-bit: FAILED (see build-wine/harness$arch.log)"
+        failed=1
+    fi
+done
+
+printf "Wine tests:$summary\n"
+exit $failed
