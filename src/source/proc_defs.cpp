@@ -1,6 +1,7 @@
 #include "source/proc_defs.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 namespace quillet::source {
@@ -52,15 +53,18 @@ void C4_ProcDefs::Add(host::CodeModule& rmdl, long vlngLineNo, bool vblnOnlyPubl
     reportedStep(Report, u"C4_ProcDefs.Add", [&] { addAt(rmdl, vlngLineNo, vblnOnlyPublic, text); });
 }
 
-void C4_ProcDefs::AddAll(host::CodeModule& rmdl, bool vblnOnlyPublic) {
+void C4_ProcDefs::AddAll(host::CodeModule& rmdl, bool vblnOnlyPublic, const ModuleText* text,
+                         long countOfDeclarationLines) {
     reportedStep(Report, u"C4_ProcDefs.Add", [&] {
-        ModuleText text(rmdl);
-        long count = text.CountOfLines();
+        std::optional<ModuleText> own;
+        if (!text) text = &own.emplace(rmdl);
+        long count = text->CountOfLines();
+        if (countOfDeclarationLines < 0) countOfDeclarationLines = rmdl.CountOfDeclarationLines();
         // The declarations hold no procedure; every line of a procedure's extent names it.
-        long line = std::max(rmdl.CountOfDeclarationLines(), 0L) + 1;
+        long line = std::max(countOfDeclarationLines, 0L) + 1;
         while (line <= count) {
             C4_ProcDefPtr def;
-            reportedStep(Report, u"C4_ProcDefs.Add", [&] { def = addAt(rmdl, line, vblnOnlyPublic, &text); });
+            reportedStep(Report, u"C4_ProcDefs.Add", [&] { def = addAt(rmdl, line, vblnOnlyPublic, text); });
             long next = line + 1;
             if (def && def->ProcStartLine <= line) next = std::max(next, def->ProcStartLine + def->ProcCountLines);
             line = next;

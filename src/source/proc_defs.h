@@ -14,8 +14,10 @@ public:
     // vblnOnlyPublic is False.
     void Add(host::CodeModule& rmdl, long vlngLineNo, bool vblnOnlyPublic, const ModuleText* text = nullptr);
     // What Add for every line from 1 to CountOfLines gives, asking the host once per procedure
-    // rather than once per line, with the module's text read once.
-    void AddAll(host::CodeModule& rmdl, bool vblnOnlyPublic);
+    // rather than once per line, with the module's text read once (or taken from `text`, with
+    // the module's CountOfDeclarationLines when it is known).
+    void AddAll(host::CodeModule& rmdl, bool vblnOnlyPublic, const ModuleText* text = nullptr,
+                long countOfDeclarationLines = -1);
     // Adds a finished record, under the key when it is not empty; a key that is taken is passed over.
     void AddProc(const C4_ProcDefPtr& robjProc, const Str& vstrKey);
     bool ProcExists(const Str& name, long kind) const;
