@@ -17,9 +17,12 @@ namespace {
 
 char16_t upperDrive(char16_t c) { return (c >= u'a' && c <= u'z') ? static_cast<char16_t>(c - 32) : c; }
 
+#ifndef _WIN32
+// Windows maps drive letters itself; elsewhere they map to the folders given to mapDrive.
 bool hasDrive(const Str& path) {
     return path.size() >= 2 && path[1] == u':' && ((path[0] >= u'A' && path[0] <= u'Z') || (path[0] >= u'a' && path[0] <= u'z'));
 }
+#endif
 
 fs::path fromSystemText(const Str& text) {
 #ifdef _WIN32

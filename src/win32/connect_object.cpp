@@ -1,5 +1,6 @@
 #include "win32/connect_object.h"
 
+#include "addin/frm_timer.h"
 #include "hosts/com/com_dispatch.h"
 #include "hosts/com/com_host.h"
 #include "platform/win/win_platform.h"
@@ -10,9 +11,19 @@ ConnectObject::ConnectObject() = default;
 
 ConnectObject::~ConnectObject() {
     try {
+        timers_.reset();
         connect_.reset();
     } catch (...) {
     }
+}
+
+addin::frmTimer* ConnectObject::timerForm() {
+    addin::Context* ctx = connect_ ? connect_->context() : nullptr;
+    return ctx ? ctx->TimerForm.get() : nullptr;
+}
+
+void ConnectObject::syncTimers() noexcept {
+    if (timers_) timers_->sync();
 }
 
 HRESULT ConnectObject::OnConnection(IDispatch* application, long connectMode, IDispatch* addInInst, SAFEARRAY**) {
@@ -23,11 +34,18 @@ HRESULT ConnectObject::OnConnection(IDispatch* application, long connectMode, ID
             connect_ = std::make_unique<addin::Connect>(std::make_shared<platform::win::WinPlatform>(module().handle()),
                                                         module().hostApplications());
         }
-        connect_->AddinInstance_OnConnection(hosts::com::makeVBE(application), connectMode,
+        if (!timers_) timers_ = std::make_shared<TimerWindow>(module().handle(), [this] { return timerForm(); });
+        // A click may change an interval: the timers catch up after each one.
+        std::weak_ptr<TimerWindow> timers = timers_;
+        auto afterClick = [timers] {
+            if (auto t = timers.lock()) t->sync();
+        };
+        connect_->AddinInstance_OnConnection(hosts::com::makeVBE(application, afterClick), connectMode,
                                              hosts::com::wrapDispatch(addInInst));
     } catch (...) {
         // The editor switches off for good an add-in whose connection fails: it never sees one.
     }
+    syncTimers();
     return S_OK;
 }
 
@@ -38,6 +56,7 @@ HRESULT ConnectObject::OnDisconnection(long removeMode, SAFEARRAY**) {
         connect_.reset();
     } catch (...) {
     }
+    syncTimers();
     return S_OK;
 }
 
@@ -46,6 +65,7 @@ HRESULT ConnectObject::OnAddInsUpdate(SAFEARRAY**) {
         if (connect_) connect_->AddinInstance_OnAddInsUpdate();
     } catch (...) {
     }
+    syncTimers();
     return S_OK;
 }
 
@@ -54,6 +74,7 @@ HRESULT ConnectObject::OnStartupComplete(SAFEARRAY**) {
         if (connect_) connect_->AddinInstance_OnStartupComplete();
     } catch (...) {
     }
+    syncTimers();
     return S_OK;
 }
 
@@ -62,6 +83,7 @@ HRESULT ConnectObject::OnBeginShutdown(SAFEARRAY**) {
         if (connect_) connect_->AddinInstance_OnBeginShutdown();
     } catch (...) {
     }
+    syncTimers();
     return S_OK;
 }
 

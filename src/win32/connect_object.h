@@ -1,12 +1,13 @@
 #pragma once
 // Quillet.Connect: the object the editor loads. It hands the editor's Application object,
-// wrapped as the host object model, to the add-in's connection, and never lets a failure or
-// an exception back into the editor.
+// wrapped as the host object model, to the add-in's connection, runs frmTimer's timers while
+// connected, and never lets a failure or an exception back into the editor.
 
 #include <memory>
 
 #include "addin/connect.h"
 #include "win32/extensibility_object.h"
+#include "win32/timer_window.h"
 
 namespace quillet::win32 {
 
@@ -22,8 +23,16 @@ public:
     HRESULT STDMETHODCALLTYPE OnStartupComplete(SAFEARRAY** custom) override;
     HRESULT STDMETHODCALLTYPE OnBeginShutdown(SAFEARRAY** custom) override;
 
+    // The timers' window (tests read which timers run); null before the first connection.
+    const TimerWindow* timers() const { return timers_.get(); }
+
 private:
+    addin::frmTimer* timerForm();
+    // The timers follow the form's intervals after each call into the add-in.
+    void syncTimers() noexcept;
+
     std::unique_ptr<addin::Connect> connect_;
+    std::shared_ptr<TimerWindow> timers_;
 };
 
 }  // namespace quillet::win32

@@ -84,6 +84,7 @@ int wmain(int argc, wchar_t** argv) {
         checkRegistration(c);
 
         runConnectionScenarios(c);
+        runTimerScenarios(c);
 
         CoFreeUnusedLibraries();
         c.check(dll.canUnloadNow() == S_OK, "DllCanUnloadNow once everything is released");

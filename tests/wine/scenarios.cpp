@@ -1,51 +1,11 @@
 #include "scenarios.h"
 
 #include "addin_loader.h"
-#include "fake_editor.h"
-#include "hosts/memory/memory_host.h"
-#include "win32/extensibility.h"
-#include "win32/guids.h"
+#include "session.h"
 
 namespace quillet::wine {
 
 namespace {
-
-using hosts::com::ComPtr;
-using hosts::memory::MemoryVBE;
-
-constexpr long ext_cm_AfterStartup = 0;
-constexpr long ext_cm_Startup = 1;
-
-std::shared_ptr<MemoryVBE> editorWithProject() {
-    auto vbe = MemoryVBE::create();
-    auto project = vbe->addProject(u"VBAProject", u"C:\\Work\\Book1.xlsm", u"Excel");
-    auto module = project->addComponent(u"Module1", host::vbext_ct_StdModule,
-                                        {u"Option Explicit", u"", u"Sub Main()", u"", u"End Sub"});
-    vbe->openPane(module)->SetSelection(4, 1, 4, 1);
-    return vbe;
-}
-
-// The editor's SAFEARRAY of custom arguments: empty, as the VBE passes it.
-class Custom {
-public:
-    Custom() : array_(SafeArrayCreateVector(VT_VARIANT, 0, 0)) {}
-    ~Custom() { SafeArrayDestroy(array_); }
-    SAFEARRAY** get() { return &array_; }
-
-private:
-    SAFEARRAY* array_;
-};
-
-ComPtr<win32::IDTExtensibility2> createConnect(Checks& c, const wchar_t* progId) {
-    ComPtr<IUnknown> unknown;
-    HRESULT hr = createAddin(progId, unknown);
-    c.check(SUCCEEDED(hr) && unknown, narrow(std::wstring(progId)) + " is created through its ProgID", hex(hr));
-    auto dispatch = unknown.as<IDispatch>(IID_IDispatch);
-    c.check(static_cast<bool>(dispatch), narrow(std::wstring(progId)) + " answers IDispatch");
-    auto ext = unknown.as<win32::IDTExtensibility2>(win32::kIidExtensibility2.guid);
-    c.check(static_cast<bool>(ext), narrow(std::wstring(progId)) + " answers IDTExtensibility2");
-    return ext;
-}
 
 bool hasBar(const std::shared_ptr<MemoryVBE>& vbe) { return vbe->commandBars()->bar(u"Quillet") != nullptr; }
 

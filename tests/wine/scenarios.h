@@ -1,10 +1,14 @@
 #pragma once
-// The connection scenarios, each against a fresh in-memory editor.
+// The scenarios the harness plays, each against a fresh in-memory editor.
 
 #include "harness.h"
 
 namespace quillet::wine {
 
+// Connection, disconnection, release, the connectors.
 void runConnectionScenarios(Checks& c);
+// frmTimer's timers: the project watch enables and disables the bar; timers stop with the
+// connection.
+void runTimerScenarios(Checks& c);
 
 }  // namespace quillet::wine

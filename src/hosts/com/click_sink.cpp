@@ -27,7 +27,8 @@ IDispatch* dispatchArg(VARIANT& v) {
 
 class ComCommandBarEvents::Sink final : public IDispatch {
 public:
-    Sink(const GUID& diid, ClickHandler handler) : diid_(diid), handler_(std::move(handler)) {}
+    Sink(const GUID& diid, ClickHandler handler, AfterEvent afterEvent)
+        : diid_(diid), handler_(std::move(handler)), afterEvent_(std::move(afterEvent)) {}
     virtual ~Sink() = default;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
@@ -60,16 +61,24 @@ public:
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* params, VARIANT*, EXCEPINFO*,
                                      UINT*) override {
         if (id != 1 || !params) return S_OK;
+        AfterEvent afterEvent = afterEvent_;  // the handler may disconnect this sink
         try {
             click(*params);
         } catch (...) {
             // A click never hands an error back to the editor.
         }
+        try {
+            if (afterEvent) afterEvent();
+        } catch (...) {
+        }
         return S_OK;
     }
 
     // The handler goes before the source lets the sink go.
-    void drop() { handler_ = nullptr; }
+    void drop() {
+        handler_ = nullptr;
+        afterEvent_ = nullptr;
+    }
 
 private:
     void click(DISPPARAMS& params) {
@@ -90,6 +99,7 @@ private:
 
     GUID diid_;
     ClickHandler handler_;
+    AfterEvent afterEvent_;
     ULONG refs_ = 1;
 };
 
@@ -100,8 +110,8 @@ bool raisesEvents(const DispatchObject& source, const GUID& diid) {
     return SUCCEEDED(container->FindConnectionPoint(diid, point.put())) && point;
 }
 
-ComCommandBarEvents::ComCommandBarEvents(DispatchObject source, const GUID& diid)
-    : source_(std::move(source)), diid_(diid) {}
+ComCommandBarEvents::ComCommandBarEvents(DispatchObject source, const GUID& diid, AfterEvent afterEvent)
+    : source_(std::move(source)), diid_(diid), afterEvent_(std::move(afterEvent)) {}
 
 ComCommandBarEvents::~ComCommandBarEvents() {
     try {
@@ -116,7 +126,7 @@ void ComCommandBarEvents::Connect(ClickHandler handler) {
     if (!container) throw basic::VbError::standard(basic::err::NotSupported, u"CommandBarEvents");
     ComPtr<IConnectionPoint> point;
     check(container->FindConnectionPoint(diid_, point.put()), u"CommandBarEvents");
-    auto* sink = new Sink(diid_, std::move(handler));
+    auto* sink = new Sink(diid_, std::move(handler), afterEvent_);
     DWORD cookie = 0;
     HRESULT hr = point->Advise(sink, &cookie);
     if (FAILED(hr)) {

@@ -10,6 +10,7 @@
 #include <functional>
 
 #include "host/objects.h"
+#include "hosts/com/com_host.h"
 #include "hosts/com/dispatch_object.h"
 
 namespace quillet::hosts::com {
@@ -23,8 +24,8 @@ inline constexpr GUID kDiidCommandBarButtonEvents = {
 
 class ComCommandBarEvents : public host::CommandBarEvents {
 public:
-    // `source` raises the events of `diid`.
-    ComCommandBarEvents(DispatchObject source, const GUID& diid);
+    // `source` raises the events of `diid`; `afterEvent` runs after each click is handled.
+    ComCommandBarEvents(DispatchObject source, const GUID& diid, AfterEvent afterEvent = nullptr);
     ~ComCommandBarEvents() override;
     ComCommandBarEvents(const ComCommandBarEvents&) = delete;
     ComCommandBarEvents& operator=(const ComCommandBarEvents&) = delete;
@@ -36,6 +37,7 @@ private:
     class Sink;
     DispatchObject source_;
     GUID diid_;
+    AfterEvent afterEvent_;
     ComPtr<IConnectionPoint> point_;
     Sink* sink_ = nullptr;
     DWORD cookie_ = 0;

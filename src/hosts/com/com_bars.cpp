@@ -113,7 +113,8 @@ public:
 
 class ComEvents : public host::Events, public ComObject {
 public:
-    using ComObject::ComObject;
+    ComEvents(DispatchObject object, AfterEvent afterEvent)
+        : ComObject(std::move(object)), afterEvent_(std::move(afterEvent)) {}
     // An Office button raises its own Click, which the editor's CommandBarEvents object
     // forwards less reliably (64-bit Office): the button's own events are taken where they
     // exist, the editor's object elsewhere (the VB6 IDE).
@@ -123,12 +124,15 @@ public:
         if (!raw) throw basic::VbError::standard(basic::err::TypeMismatch, u"CommandBarEvents");
         DispatchObject button{ComPtr<IDispatch>(raw)};
         if (raisesEvents(button, kDiidCommandBarButtonEvents)) {
-            return std::make_shared<ComCommandBarEvents>(std::move(button), kDiidCommandBarButtonEvents);
+            return std::make_shared<ComCommandBarEvents>(std::move(button), kDiidCommandBarButtonEvents, afterEvent_);
         }
         DispatchObject source = d_.getObject(u"CommandBarEvents", {ComVariant(raw)});
         if (!source) throw basic::VbError::standard(basic::err::ObjectNotSet, u"CommandBarEvents");
-        return std::make_shared<ComCommandBarEvents>(std::move(source), kDiidCommandBarControlEvents);
+        return std::make_shared<ComCommandBarEvents>(std::move(source), kDiidCommandBarControlEvents, afterEvent_);
     }
+
+private:
+    AfterEvent afterEvent_;
 };
 
 }  // namespace
@@ -141,7 +145,10 @@ host::CommandBarControlsPtr makeCommandBarControls(DispatchObject o) {
 host::CommandBarControlPtr makeCommandBarControl(DispatchObject o) {
     return wrap<ComCommandBarControl, host::CommandBarControl>(std::move(o));
 }
-host::EventsPtr makeEvents(DispatchObject o) { return wrap<ComEvents, host::Events>(std::move(o)); }
+host::EventsPtr makeEvents(DispatchObject o, AfterEvent afterEvent) {
+    if (!o) return nullptr;
+    return std::make_shared<ComEvents>(std::move(o), std::move(afterEvent));
+}
 
 IDispatch* comObjectOf(const host::CommandBarControlPtr& control) {
     auto* com = dynamic_cast<ComObject*>(control.get());

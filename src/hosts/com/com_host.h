@@ -3,13 +3,20 @@
 // by member name. Each wrapper holds one reference on its COM object and drops it when the
 // last shared pointer to it goes.
 
+#include <functional>
+
 #include "host/objects.h"
 #include "hosts/com/dispatch_object.h"
 
 namespace quillet::hosts::com {
 
-// The editor from the Application object handed to OnConnection; none for null.
-host::VBEPtr makeVBE(IDispatch* vbe);
+// Run after the add-in has handled an event the editor raised into it (a command bar click),
+// so that the Windows shell can catch up with what the handler changed. Never throws out.
+using AfterEvent = std::function<void()>;
+
+// The editor from the Application object handed to OnConnection; none for null. The click
+// sinks made through its Events run `afterEvent` after each click.
+host::VBEPtr makeVBE(IDispatch* vbe, AfterEvent afterEvent = nullptr);
 
 // One factory per class; each gives none for a null object.
 host::VBProjectsPtr makeVBProjects(DispatchObject object);
@@ -27,7 +34,7 @@ host::CommandBarsPtr makeCommandBars(DispatchObject object);
 host::CommandBarPtr makeCommandBar(DispatchObject object);
 host::CommandBarControlsPtr makeCommandBarControls(DispatchObject object);
 host::CommandBarControlPtr makeCommandBarControl(DispatchObject object);
-host::EventsPtr makeEvents(DispatchObject object);
+host::EventsPtr makeEvents(DispatchObject object, AfterEvent afterEvent = nullptr);
 
 // The COM object under a wrapper made here, or null (for a wrapper of another host, or none).
 IDispatch* comObjectOf(const host::CommandBarControlPtr& control);

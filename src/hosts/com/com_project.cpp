@@ -9,7 +9,7 @@ namespace {
 
 class ComVBE : public host::VBE, public ComObject {
 public:
-    using ComObject::ComObject;
+    ComVBE(DispatchObject object, AfterEvent afterEvent) : ComObject(std::move(object)), afterEvent_(std::move(afterEvent)) {}
     host::VBProjectPtr ActiveVBProject() override { return makeVBProject(d_.getObject(u"ActiveVBProject")); }
     host::VBProjectsPtr VBProjects() override { return makeVBProjects(d_.getObject(u"VBProjects")); }
     host::CodePanePtr ActiveCodePane() override { return makeCodePane(d_.getObject(u"ActiveCodePane")); }
@@ -21,8 +21,11 @@ public:
     host::WindowsPtr Windows() override { return makeWindows(d_.getObject(u"Windows")); }
     host::WindowPtr MainWindow() override { return makeWindow(d_.getObject(u"MainWindow")); }
     host::CommandBarsPtr CommandBars() override { return makeCommandBars(d_.getObject(u"CommandBars")); }
-    host::EventsPtr Events() override { return makeEvents(d_.getObject(u"Events")); }
+    host::EventsPtr Events() override { return makeEvents(d_.getObject(u"Events"), afterEvent_); }
     Str Version() override { return d_.getStr(u"Version"); }
+
+private:
+    AfterEvent afterEvent_;
 };
 
 class ComVBProjects : public host::VBProjects, public ComObject {
@@ -98,7 +101,10 @@ public:
 
 }  // namespace
 
-host::VBEPtr makeVBE(IDispatch* vbe) { return wrap<ComVBE, host::VBE>(DispatchObject(ComPtr<IDispatch>(vbe))); }
+host::VBEPtr makeVBE(IDispatch* vbe, AfterEvent afterEvent) {
+    if (!vbe) return nullptr;
+    return std::make_shared<ComVBE>(DispatchObject(ComPtr<IDispatch>(vbe)), std::move(afterEvent));
+}
 host::VBProjectsPtr makeVBProjects(DispatchObject o) { return wrap<ComVBProjects, host::VBProjects>(std::move(o)); }
 host::VBProjectPtr makeVBProject(DispatchObject o) { return wrap<ComVBProject, host::VBProject>(std::move(o)); }
 host::ReferencesPtr makeReferences(DispatchObject o) { return wrap<ComReferences, host::References>(std::move(o)); }
