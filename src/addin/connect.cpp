@@ -49,6 +49,7 @@ void Connect::AddinInstance_OnConnection(const host::VBEPtr& application, long c
                                          const basic::DispatchPtr& addInInst) noexcept {
     try {
         if (context_) AddinInstance_OnDisconnection(0);
+        if (!application) return;  // nothing to attach to: stay disconnected
         connectMode_ = connectMode;
         context_ = std::make_unique<Context>(application, platform_, hostApps_);
         context_->ConnectInstance = this;

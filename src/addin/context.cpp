@@ -1,5 +1,6 @@
 #include "addin/context.h"
 
+#include "addin/err_handler.h"
 #include "addin/frm_timer.h"
 #include "addin/version.h"
 #include "basic/unicode.h"
@@ -14,6 +15,12 @@ Context::Context(host::VBEPtr vbe, std::shared_ptr<platform::Platform> platform,
       hostApps_(std::move(hostApps)) {}
 
 Context::~Context() = default;
+
+source::ScanEnv Context::scanEnv() {
+    return source::ScanEnv{*VBInstance, Scan, [this](const basic::VbError& error, const Str& procedure) {
+                                HandleError(*this, error, 0, procedure);
+                            }};
+}
 
 Str Context::Version() const {
     return basic::u16(std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) + "." +

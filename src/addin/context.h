@@ -11,6 +11,8 @@
 #include "host/objects.h"
 #include "platform/platform.h"
 #include "settings/settings.h"
+#include "source/prefixes.h"
+#include "source/scan_state.h"
 
 namespace quillet::addin {
 
@@ -66,6 +68,12 @@ public:
     QuickCommandState Quick;
     // The current settings (IniItemValue) and type prefixes, with the services they use.
     std::unique_ptr<settings::Settings> IniSettings;
+    // The scan of the active project (ProjectProcs, ProjectVars, ProjectConsts, ProjectEnums,
+    // ProjectTypes) and the prefix collections built from the settings.
+    source::ProjectScanState Scan;
+    source::PrefixTables Prefixes;
+    // What a scanner is given: the editor, the scan, and HandleError for its failures.
+    source::ScanEnv scanEnv();
 
     // How often ProjectInitialize has run in this connection (the timer's project watch is
     // judged by it).

@@ -5,7 +5,9 @@
 #include "basic/strings.h"
 #include "settings/code_folders.h"
 #include "settings/ini_vars.h"
+#include "addin/command_bar.h"
 #include "source/keywords.h"
+#include "source/scan_project.h"
 
 namespace quillet::addin {
 
@@ -28,6 +30,9 @@ void AddInInitialize(Context& ctx) noexcept {
     };
     guarded(ctx, where, [&] { settings::InitializeGlobalVars(settings, true); });
     guarded(ctx, where, [&] { settings::TypePrefixFromIniFile(settings); });
+    guarded(ctx, where, [&] {
+        ctx.Prefixes = source::PrefixesCollectionsCreate(source::prefixSettingsOf(settings), settings.TypePrefixes);
+    });
     guarded(ctx, where, [&] { ctx.Keywords = source::keywordList(); });
     guarded(ctx, where, [&] { settings::MakeCodeFolders(settings); });
 }
@@ -40,12 +45,20 @@ void AddInTerminate(Context& ctx) noexcept {
     ctx.TimerForm.reset();
     ctx.hostApplications() = HostApplications{};
     ctx.Keywords.clear();
+    ctx.Scan = source::ProjectScanState{};
+    ctx.Prefixes = source::PrefixTables{};
     if (ctx.IniSettings) ctx.IniSettings->ReportError = nullptr;
     ctx.VBInstance.reset();
 }
 
 void ProjectInitialize(Context& ctx, bool /*blnProjectOnly*/) noexcept {
-    guarded(ctx, u"basGlobal.ProjectInitialize", [&] { outlookStep(ctx); });
+    const Str where = u"basGlobal.ProjectInitialize";
+    guarded(ctx, where, [&] { outlookStep(ctx); });
+    if (ctx.TestingMode) guarded(ctx, where, [&] { AccessToolBarCreate(ctx); });
+    guarded(ctx, where, [&] {
+        ctx.Scan.ProjectProcs = source::newCollection<source::C4_ProcDef>();
+        source::clsScanProject(ctx.scanEnv()).init({}, true);
+    });
     ++ctx.ProjectInitializeRuns;
 }
 

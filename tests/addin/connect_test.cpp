@@ -196,6 +196,26 @@ TEST_F(Connection, OutlookIsMovedOutOfTheWayAtEachInitialisation) {
     EXPECT_EQ(platform->closedWindowClasses()[0], u"rctrl_renwnd32");
 }
 
+TEST_F(Connection, NoEditorLeavesTheAddinDisconnected) {
+    connect->AddinInstance_OnConnection(nullptr, addin::ext_cm_Startup, nullptr);
+    EXPECT_FALSE(connect->connected());
+    connect->AddinInstance_OnDisconnection(0);
+    connect->AddinInstance_OnAddInsUpdate();
+}
+
+TEST_F(Connection, ScansTheProjectWhenItComesActive) {
+    auto project = vbe->addProject(u"VBAProject", u"C:\\Work\\Book1.xlsm", u"Excel");
+    project->addComponent(u"basMain", host::vbext_ct_StdModule,
+                          {u"Public Const APP_NAME As String = \"Invoicing\"", u"Public gCount As Long", u"",
+                           u"Public Sub Main()", u"End Sub"});
+    connect->AddinInstance_OnConnection(vbe, addin::ext_cm_Startup, nullptr);
+    tick();
+    ASSERT_TRUE(ctx().Scan.ProjectVars);
+    EXPECT_TRUE(ctx().Scan.ProjectVars->Exists(u"gCount"));
+    EXPECT_TRUE(ctx().Scan.ProjectConsts->Exists(u"APP_NAME"));
+    EXPECT_TRUE(ctx().Scan.ProjectProcs->Exists(u"Main"));
+}
+
 TEST_F(Connection, ReconnectingStartsFresh) {
     connect->AddinInstance_OnConnection(vbe, addin::ext_cm_Startup, nullptr);
     connect->AddinInstance_OnConnection(vbe, addin::ext_cm_AfterStartup, nullptr);
