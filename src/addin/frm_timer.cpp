@@ -2,9 +2,12 @@
 
 #include "addin/bar_state.h"
 #include "addin/command_bar.h"
+#include "addin/command_handlers.h"
 #include "addin/err_handler.h"
 #include "addin/lifecycle.h"
 #include "basic/strings.h"
+
+#include <utility>
 
 namespace quillet::addin {
 
@@ -59,10 +62,12 @@ void frmTimer::Timer1_Timer() noexcept {
 }
 
 void frmTimer::Timer2_Timer() noexcept {
-    // The builders that a Select block hands over to open here once they exist; the shot is
-    // spent either way.
+    // One shot: spent before the builder opens, so a builder that takes long cannot fire it twice.
     Timer2.Interval = 0;
-    Timer2.Tag.clear();
+    Str form = std::exchange(Timer2.Tag, Str());
+    Str name = std::exchange(Timer2Name, Str());
+    if (form != u"frmVar" && form != u"frmCodeLineTLI") return;
+    guarded(ctx_, u"frmTimer.Timer2_Timer", [&] { RoutineRun(ctx_, form, form == u"frmVar" ? name : Str()); });
 }
 
 void frmTimer::Timer3_Timer() noexcept {

@@ -17,6 +17,7 @@ public:
     };
     Timer Timer1{500, {}};  // project watch and bar state
     Timer Timer2;           // one shot: opens a builder after a Select block stands
+    Str Timer2Name;         // the name the caller keeps for the builder Timer2 opens
     Timer Timer3;           // retries a report to the Immediate window
 
     // Each never throws.

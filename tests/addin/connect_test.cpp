@@ -267,3 +267,51 @@ TEST(HostConnectors, ShareTheirObjectWithTheConnection) {
 
 }  // namespace
 }  // namespace quillet::testing
+
+namespace quillet::testing {
+namespace {
+
+class TimerTwo : public AddinFixture {
+protected:
+    TimerTwo() {
+        ctx->TimerForm = std::make_unique<addin::frmTimer>(*ctx);
+        ctx->routines[u"frmVar"] = [this](addin::Context&, const Str& arg) { opened.push_back(u"frmVar:" + arg); };
+        ctx->routines[u"frmCodeLineTLI"] = [this](addin::Context&, const Str& arg) {
+            opened.push_back(u"frmCodeLineTLI:" + arg);
+        };
+    }
+    std::vector<Str> opened;
+};
+
+TEST_F(TimerTwo, OpensTheVariableBuilderWithTheKeptNameOnce) {
+    auto& timer = *ctx->TimerForm;
+    timer.Timer2.Interval = 50;
+    timer.Timer2.Tag = u"frmVar";
+    timer.Timer2Name = u"strCustomer";
+    timer.Timer2_Timer();
+    EXPECT_EQ(timer.Timer2.Interval, 0);
+    EXPECT_EQ(opened, std::vector<Str>{u"frmVar:strCustomer"});
+    timer.Timer2_Timer();  // spent
+    EXPECT_EQ(opened.size(), 1u);
+}
+
+TEST_F(TimerTwo, OpensTheLineOfCodeBuilderAndNothingElse) {
+    auto& timer = *ctx->TimerForm;
+    timer.Timer2 = {50, u"frmCodeLineTLI"};
+    timer.Timer2Name = u"ignored";
+    timer.Timer2_Timer();
+    timer.Timer2 = {50, u"frmSomethingElse"};
+    timer.Timer2_Timer();
+    EXPECT_EQ(opened, std::vector<Str>{u"frmCodeLineTLI:"});
+    EXPECT_EQ(timer.Timer2.Interval, 0);
+}
+
+TEST_F(TimerTwo, AFailingBuilderIsReported) {
+    ctx->routines[u"frmVar"] = [](addin::Context&, const Str&) { throw basic::VbError(5, u"Invalid procedure call or argument"); };
+    ctx->TimerForm->Timer2 = {50, u"frmVar"};
+    ctx->TimerForm->Timer2_Timer();
+    EXPECT_EQ(reports.size(), 1u);
+}
+
+}  // namespace
+}  // namespace quillet::testing
