@@ -5,7 +5,7 @@
 option(QUILLET_WINE_HARNESS "Build the Wine test harness" ON)
 
 set(QUILLET_WIN_DEFINITIONS UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
-set(QUILLET_WIN_LIBRARIES ole32 oleaut32 uuid user32 advapi32 shell32)
+set(QUILLET_WIN_LIBRARIES ole32 oleaut32 uuid user32 advapi32 shell32 comdlg32)
 
 file(GLOB QUILLET_WIN_SOURCES CONFIGURE_DEPENDS
   ${CMAKE_SOURCE_DIR}/src/hosts/com/*.cpp

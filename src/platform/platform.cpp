@@ -33,6 +33,10 @@ std::optional<long> positiveNumber(const std::optional<Str>& value) {
 
 }  // namespace
 
+std::optional<FileDialogChoice> Platform::ShowOpenFileDialog(const FileDialogRequest&) { return std::nullopt; }
+std::optional<FileDialogChoice> Platform::ShowSaveFileDialog(const FileDialogRequest&) { return std::nullopt; }
+std::optional<Str> Platform::BrowseForFolder(const Str&, const Str&) { return std::nullopt; }
+
 int defaultAnswer(int buttons) {
     auto answers = answersOf(buttons);
     size_t index = static_cast<size_t>((buttons >> 8) & 0x03);

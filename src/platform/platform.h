@@ -6,6 +6,8 @@
 
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "basic/dispatch.h"
 #include "basic/vb_error.h"
@@ -41,6 +43,30 @@ constexpr int vbNo = 7;
 // The answers a box with these buttons can give, first to last, and the one its default button gives.
 int defaultAnswer(int buttons);
 bool answerFits(int buttons, int answer);
+
+// A common file dialog, to open or to save: its title; the filters as pairs of a description and
+// its patterns ("Basic Files (*.bas)", "*.bas"), several patterns joined by ";"; the filter shown
+// first (1-based); the folder it opens in; the name proposed; whether several files may be
+// chosen; extra OFN_ flags as Windows defines them; the read-only check box.
+struct FileDialogRequest {
+    Str title;
+    std::vector<std::pair<Str, Str>> filters;
+    long filterIndex = 1;
+    Str initialFolder;
+    Str fileName;
+    bool allowMultiSelect = false;
+    long flags = 0;
+    bool checkBoxVisible = false;
+    bool checkBoxSelected = false;
+};
+
+// What was chosen in a file dialog: the full path of each file (one unless several may be
+// chosen), the filter in use at the end (1-based) and the state of the read-only check box.
+struct FileDialogChoice {
+    std::vector<Str> paths;
+    long filterIndex = 1;
+    bool checkBoxSelected = false;
+};
 
 // The key of the editor's own settings (tab width, code font).
 inline constexpr char16_t kEditorSettingsKey[] = u"Software\\Microsoft\\VBA\\6.0\\Common";
@@ -85,6 +111,13 @@ public:
     // FindWindowA(className) then CloseWindow on it (minimises a window that is in the way);
     // nothing when there is none.
     virtual void CloseWindowOfClass(const Str& className) = 0;
+
+    // The file dialogs and the folder browser: the choice, or none for Cancel. A platform without
+    // them answers Cancel.
+    virtual std::optional<FileDialogChoice> ShowOpenFileDialog(const FileDialogRequest& request);
+    virtual std::optional<FileDialogChoice> ShowSaveFileDialog(const FileDialogRequest& request);
+    // The folder chosen, without a final "\" unless it is a drive's root.
+    virtual std::optional<Str> BrowseForFolder(const Str& title, const Str& startFolder);
 
     // The bitmap of a command bar face (or of its mask) as a picture object, for
     // CommandBarControl.Picture and Mask. A face not in kFaceIds raises 326.

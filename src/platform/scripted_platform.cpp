@@ -79,6 +79,48 @@ std::optional<Str> ScriptedPlatform::InputBox(const Str& prompt, const Str& titl
     return typed;
 }
 
+std::optional<Str> ScriptedPlatform::dialogAnswer(const Str& proposed) {
+    if (answers_.empty()) return std::nullopt;
+    Str given = answers_.front();
+    answers_.pop_front();
+    auto named = answerValue(given);
+    if (named == mb::vbOK) return proposed.empty() ? std::nullopt : std::optional<Str>(proposed);
+    if (named || given.empty()) return std::nullopt;
+    return given;
+}
+
+std::optional<FileDialogChoice> ScriptedPlatform::fileDialog(const FileDialogRequest& request, ShownBox::Kind kind) {
+    fileDialogs_.push_back(request);
+    Str proposed = request.fileName;
+    if (!proposed.empty() && !request.initialFolder.empty() && basic::InStr(proposed, u"\\") == 0)
+        proposed = (request.initialFolder.back() == u'\\' ? request.initialFolder : request.initialFolder + u"\\") + proposed;
+    auto answer = dialogAnswer(proposed);
+    shown_.push_back({kind, request.fileName, request.title, 0, request.initialFolder, answer});
+    if (!answer) return std::nullopt;
+    FileDialogChoice choice;
+    choice.filterIndex = request.filterIndex;
+    choice.checkBoxSelected = request.checkBoxSelected;
+    for (const Str& path : basic::Split(*answer, u"|"))
+        if (!path.empty()) choice.paths.push_back(path);
+    if (!request.allowMultiSelect && choice.paths.size() > 1) choice.paths.resize(1);
+    if (choice.paths.empty()) return std::nullopt;
+    return choice;
+}
+
+std::optional<FileDialogChoice> ScriptedPlatform::ShowOpenFileDialog(const FileDialogRequest& request) {
+    return fileDialog(request, ShownBox::Kind::OpenFile);
+}
+
+std::optional<FileDialogChoice> ScriptedPlatform::ShowSaveFileDialog(const FileDialogRequest& request) {
+    return fileDialog(request, ShownBox::Kind::SaveFile);
+}
+
+std::optional<Str> ScriptedPlatform::BrowseForFolder(const Str& title, const Str& startFolder) {
+    auto answer = dialogAnswer(startFolder);
+    shown_.push_back({ShownBox::Kind::Folder, Str{}, title, 0, startFolder, answer});
+    return answer;
+}
+
 void ScriptedPlatform::ClipboardClear() {
     clipboard_.reset();
     clipboardFace_ = 0;

@@ -1,7 +1,10 @@
 #pragma once
 // The platform of tests and of the quillet tool: answers to boxes come from a queue, in order;
 // a message box with no answer left takes its default button, and an input box with no answer
-// left counts as Cancel. Everything shown is logged so tests can read it back.
+// left counts as Cancel. The file dialogs and the folder browser take their answer from the same
+// queue: "cancel" (or no answer left) is Cancel, "ok" takes what the dialog proposes, any other
+// text is the path chosen (several paths of a multiple choice separated by "|"). Everything
+// shown is logged so tests can read it back.
 
 #include <deque>
 #include <functional>
@@ -14,11 +17,11 @@
 namespace quillet::platform {
 
 struct ShownBox {
-    enum class Kind { Message, Input } kind;
+    enum class Kind { Message, Input, OpenFile, SaveFile, Folder } kind;
     Str prompt;
     Str title;
     int buttons = 0;      // message boxes
-    Str defaultText;      // input boxes
+    Str defaultText;      // input boxes; the folder a dialog or browser opens in
     std::optional<Str> answer;  // the text typed, or the answer's name ("yes", "cancel" ...)
 };
 
@@ -86,6 +89,11 @@ public:
     void ShellOpen(const Str& target) override { opened_.push_back(target); }
     void CloseWindowOfClass(const Str& className) override { closedWindowClasses_.push_back(className); }
     const std::vector<Str>& closedWindowClasses() const { return closedWindowClasses_; }
+    std::optional<FileDialogChoice> ShowOpenFileDialog(const FileDialogRequest& request) override;
+    std::optional<FileDialogChoice> ShowSaveFileDialog(const FileDialogRequest& request) override;
+    std::optional<Str> BrowseForFolder(const Str& title, const Str& startFolder) override;
+    // The requests of the file dialogs shown, in order.
+    const std::vector<FileDialogRequest>& fileDialogs() const { return fileDialogs_; }
     basic::DispatchPtr FacePicture(long faceId, bool mask) override;
     void ClipboardSetFace(long faceId) override;
     // The face on the clipboard, 0 for none.
@@ -95,7 +103,12 @@ public:
     const std::vector<Str>& opened() const { return opened_; }
 
 private:
+    std::optional<FileDialogChoice> fileDialog(const FileDialogRequest& request, ShownBox::Kind kind);
+    // The next answer for a dialog: none for Cancel, "ok" replaced by the proposed text.
+    std::optional<Str> dialogAnswer(const Str& proposed);
+
     std::deque<Str> answers_;
+    std::vector<FileDialogRequest> fileDialogs_;
     std::vector<ShownBox> shown_;
     std::vector<Str> keys_;
     std::optional<Str> clipboard_;
