@@ -8,6 +8,7 @@
 #include "basic/strings.h"
 #include "basic/unicode.h"
 #include "settings/code_folders.h"
+#include "settings/default_files.h"
 #include "settings/ini_file.h"
 
 namespace quillet::settings {
@@ -133,16 +134,42 @@ void SetDefaults(Settings& settings) {
     for (long item = 0; item < IniItemCount; ++item) settings.IniItemValue[item] = ItemDefault(item);
 }
 
-void InitializeGlobalVars(Settings& settings, bool firstStartRun) {
+namespace {
+
+// Reads every file; gives whether a value was missing, and throws what the reading throws.
+bool readAllFiles(Settings& settings) {
     bool anyMissing = false;
+    SetDefaults(settings);
+    std::vector<Str> files;
+    for (long item = 0; item < IniItemCount; ++item) {
+        Str file = fileOfItem(settings, item);
+        if (std::find(files.begin(), files.end(), file) == files.end()) files.push_back(file);
+    }
+    for (const Str& file : files) anyMissing = readFile(settings, file) || anyMissing;
+    return anyMissing;
+}
+
+// A fresh installation takes the shipped files; a missing shipped folder is no error here.
+void installShippedFiles(Settings& settings) {
+    Str source = DefaultFilesSource(settings);
+    if (settings.Files.FolderExists(source)) InstallDefaultFiles(settings, source);
+}
+
+}  // namespace
+
+bool LoadIniItemValues(Settings& settings) {
     try {
-        SetDefaults(settings);
-        std::vector<Str> files;
-        for (long item = 0; item < IniItemCount; ++item) {
-            Str file = fileOfItem(settings, item);
-            if (std::find(files.begin(), files.end(), file) == files.end()) files.push_back(file);
-        }
-        for (const Str& file : files) anyMissing = readFile(settings, file) || anyMissing;
+        return readAllFiles(settings);
+    } catch (const VbError& e) {
+        settings.reportError(e, u"modIniVarsQuillet.InitializeGlobalVars");
+    }
+    return false;
+}
+
+void InitializeGlobalVars(Settings& settings, bool firstStartRun) {
+    try {
+        bool anyMissing = readAllFiles(settings);
+        if (firstStartRun && anyMissing) installShippedFiles(settings);
         if (firstStartRun) firstStart(settings, anyMissing);
     } catch (const VbError& e) {
         settings.reportError(e, u"modIniVarsQuillet.InitializeGlobalVars");

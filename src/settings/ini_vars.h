@@ -16,8 +16,12 @@ bool IniBool(Settings& settings, long item);
 // Every item takes its default.
 void SetDefaults(Settings& settings);
 // Loads all items from their files, writing the defaults of missing keys back; at a first start
-// (connection) opens the Settings dialog and asks about the tool windows as needed.
+// (connection) installs the shipped files when a value was missing (a fresh installation), then
+// opens the Settings dialog and asks about the tool windows as needed.
 void InitializeGlobalVars(Settings& settings, bool firstStart);
+// The loading step alone: defaults, then every file read and its missing keys written. Gives
+// whether a value was missing. Errors go to HandleError.
+bool LoadIniItemValues(Settings& settings);
 // Reads the section "Prefix" of the prefix standards file into TypePrefixes.
 void TypePrefixFromIniFile(Settings& settings);
 // Fills the dialog's controls from IniItemValue.

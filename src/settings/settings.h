@@ -61,6 +61,9 @@ public:
     std::function<std::optional<std::string>(const std::string& name)> Environment;
     // The root folder once computed, in the system's form with no final "\".
     Str RootFolderCache;
+    // The folder of the files a fresh installation needs (system path); the add-in's folder and
+    // "data" when not set.
+    std::optional<Str> DefaultFilesFolder;
 
     // One value per catalogue item: a Boolean item holds a bool, every other a text.
     std::vector<basic::Variant> IniItemValue;
