@@ -1,5 +1,7 @@
 #include "addin/context.h"
 
+#include <ctime>
+
 #include "addin/err_handler.h"
 #include "addin/frm_timer.h"
 #include "addin/version.h"
@@ -7,12 +9,28 @@
 
 namespace quillet::addin {
 
+namespace {
+
+// The local date or time in a strftime format.
+Str localClockText(const char* format) {
+    std::time_t now = std::time(nullptr);
+    char text[32] = {};
+    if (const std::tm* local = std::localtime(&now)) std::strftime(text, sizeof text, format, local);
+    return basic::u16(text);
+}
+
+}  // namespace
+
 Context::Context(host::VBEPtr vbe, std::shared_ptr<platform::Platform> platform,
                  std::shared_ptr<HostApplications> hostApps)
     : VBInstance(std::move(vbe)),
       IniSettings(std::make_unique<settings::Settings>(*platform)),
+      Forms(std::make_shared<dialogs::FormStack>(platform)),
       platform_(std::move(platform)),
-      hostApps_(std::move(hostApps)) {}
+      hostApps_(std::move(hostApps)) {
+    DateText = [] { return localClockText("%Y-%m-%d"); };
+    TimeText = [] { return localClockText("%H:%M:%S"); };
+}
 
 Context::~Context() = default;
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "basic/dispatch.h"
+#include "dialogs/form_stack.h"
 #include "host/objects.h"
 #include "platform/platform.h"
 #include "settings/settings.h"
@@ -94,6 +95,12 @@ public:
     // handlers open them by name; a name nobody registered does nothing.
     using Routine = std::function<void(Context& ctx, const Str& argument)>;
     std::map<Str, Routine> routines;
+    // The open dialogs (the one on top gets the UI script's commands) and the dialogs that can be
+    // opened by name; builders register their openers here and in `routines`.
+    std::shared_ptr<dialogs::FormStack> Forms;
+    // The date and time that {DATE} and {TIME} stand for; the local clock ("2024-05-31",
+    // "14:05:09") unless a test sets a fixed one.
+    std::function<Str()> DateText, TimeText;
     // Supplied by the layers that scan folders and code; empty until they are: the names of the
     // error handler templates (ErrorHandlersList), and whether "Explicit Argument" can complete
     // an argument at the caret (ExplicitArgumentAvailable).
