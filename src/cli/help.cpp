@@ -18,6 +18,7 @@ constexpr const char* kToolHelp =
     "Commands:\n"
     "  run      run a quick command at a place in a module\n"
     "  list     list the modules of a project\n"
+    "  play     drive a builder's dialog with a UI script, then write the code\n"
     "  help     show the help of a command (quillet help run)\n"
     "  version  show the version\n"
     "\n"
@@ -32,7 +33,7 @@ constexpr const char* kToolHelp =
     "folder is loaded unless Module=, Class= or Form= lines list them.\n"
     "\n"
     "Exit codes: 0 success, 1 usage error, 2 the project cannot be read or written, or\n"
-    "the place given does not exist.\n";
+    "the place given does not exist, 3 a UI script stopped (play).\n";
 
 constexpr const char* kRunHelp =
     "Usage: quillet run COMMAND [TYPE] --project PATH (--at PLACE | --select RANGE) [OPTIONS]\n"
@@ -60,6 +61,33 @@ constexpr const char* kRunHelp =
     "Example:\n"
     "  quillet run \"If Then Else\" --project examples/Invoicing --at basMain:12:5 --dry-run\n";
 
+constexpr const char* kPlayHelp =
+    "Usage: quillet play SCRIPT --project PATH (--at PLACE | --select RANGE) [OPTIONS]\n"
+    "\n"
+    "Plays the UI script SCRIPT with the caret at PLACE: it opens a builder as its command\n"
+    "does, fills in the dialog, clicks its buttons and checks what the dialogs show and what\n"
+    "the modules hold (docs/ui-scripts.md). Then writes the changed files and prints their\n"
+    "names, one a line.\n"
+    "\n"
+    "Options:\n"
+    "  --project PATH        the project: a folder, or a .vbp file\n"
+    "  --at MODULE:LINE[:COL]\n"
+    "                        the caret (column 1 when left out)\n"
+    "  --select MODULE:L1:C1-L2:C2\n"
+    "                        a selection instead of a caret (the end column is exclusive)\n"
+    "  --answer VALUE        an answer for a message or input box, used before the script's\n"
+    "                        own answer lines; repeatable (see quillet run --help)\n"
+    "  --dry-run             print a unified diff of the changes and write nothing\n"
+    "  --settings DIR        the settings folder\n"
+    "  --code-page CP        the code page of module files: 1252 (the default) or 65001\n"
+    "\n"
+    "A script that cannot be read exits with 1; a script that stops (an expect that does\n"
+    "not hold, a control that is missing or disabled) prints SCRIPT:LINE: and the reason,\n"
+    "writes nothing and exits with 3.\n"
+    "\n"
+    "Example:\n"
+    "  quillet play tests/ui/new_function.ui --project examples/Invoicing --at basMain:3\n";
+
 constexpr const char* kListHelp =
     "Usage: quillet list --project PATH [--code-page CP]\n"
     "\n"
@@ -71,6 +99,7 @@ std::string helpText(Verb verb) {
     switch (verb) {
         case Verb::Run: return kRunHelp;
         case Verb::List: return kListHelp;
+        case Verb::Play: return kPlayHelp;
         default: return kToolHelp;
     }
 }

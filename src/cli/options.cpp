@@ -39,7 +39,7 @@ std::pair<Str, std::string> modulePart(const std::string& text, const std::strin
 
 Verb verbNamed(const std::string& word) {
     static const std::map<std::string, Verb> verbs = {
-        {"run", Verb::Run}, {"list", Verb::List}, {"help", Verb::Help}, {"version", Verb::Version}};
+        {"run", Verb::Run}, {"list", Verb::List}, {"play", Verb::Play}, {"help", Verb::Help}, {"version", Verb::Version}};
     auto found = verbs.find(word);
     if (found == verbs.end()) throw UsageError("unknown command \"" + word + "\"");
     return found->second;
@@ -117,6 +117,15 @@ void checkRun(ToolOptions& options, const std::vector<std::string>& positionals)
     if (options.at && options.select) throw UsageError("give --at or --select, not both");
 }
 
+void checkPlay(ToolOptions& options, const std::vector<std::string>& positionals) {
+    if (positionals.empty()) throw UsageError("play needs a SCRIPT (a UI script file)");
+    if (positionals.size() > 1) throw UsageError("play takes one SCRIPT; unexpected \"" + positionals[1] + "\"");
+    options.script = positionals[0];
+    if (!options.project) throw UsageError("play needs --project PATH");
+    if (!options.at && !options.select) throw UsageError("play needs --at MODULE:LINE[:COL] or --select MODULE:L1:C1-L2:C2");
+    if (options.at && options.select) throw UsageError("give --at or --select, not both");
+}
+
 void checkList(const ToolOptions& options, const std::vector<std::string>& positionals) {
     if (!positionals.empty()) throw UsageError("list takes no arguments; unexpected \"" + positionals[0] + "\"");
     if (!options.project) throw UsageError("list needs --project PATH");
@@ -171,6 +180,7 @@ ToolOptions parseArguments(const std::vector<std::string>& args) {
     switch (options.verb) {
         case Verb::Run: checkRun(options, positionals); break;
         case Verb::List: checkList(options, positionals); break;
+        case Verb::Play: checkPlay(options, positionals); break;
         case Verb::Help:
             // "quillet help run" is "quillet run --help".
             if (!positionals.empty()) {

@@ -33,13 +33,14 @@ struct SelectionSpec {
     long startLine = 1, startColumn = 1, endLine = 1, endColumn = 1;
 };
 
-enum class Verb { Help, Version, Run, List };
+enum class Verb { Help, Version, Run, List, Play };
 
 struct ToolOptions {
     Verb verb = Verb::Help;
     bool help = false;          // --help after a verb: that verb's help
     Str command;                // run: the command word
     Str type;                   // run: its optional type
+    std::optional<std::string> script;  // play: the UI script's path
     std::optional<std::string> project;
     std::optional<Location> at;
     std::optional<SelectionSpec> select;

@@ -3,6 +3,7 @@
 #include "basic/vb_error.h"
 #include "cli/help.h"
 #include "cli/options.h"
+#include "cli/play_command.h"
 #include "cli/run_command.h"
 #include "hosts/files/project_error.h"
 
@@ -11,7 +12,7 @@ namespace quillet::cli {
 namespace {
 
 std::string helpHint(const std::vector<std::string>& args) {
-    bool verb = !args.empty() && (args[0] == "run" || args[0] == "list");
+    bool verb = !args.empty() && (args[0] == "run" || args[0] == "list" || args[0] == "play");
     return verb ? "Try 'quillet " + args[0] + " --help'." : "Try 'quillet --help'.";
 }
 
@@ -24,6 +25,7 @@ int dispatch(const ToolOptions& options, std::ostream& out, std::ostream& err) {
         case Verb::Version: out << versionText(); return kExitOk;
         case Verb::Run: return runCommand(options, out, err);
         case Verb::List: return listModules(options, out);
+        case Verb::Play: return playScript(options, out, err);
         default: return kExitOk;
     }
 }

@@ -1,0 +1,19 @@
+#include "builders/builder_registry.h"
+
+namespace quillet::builders {
+
+void RegisterBuilder(addin::Context& ctx, const Str& formName, dialogs::FormStack::Opener opener) {
+    ctx.Forms->Register(formName, std::move(opener));
+    ctx.routines[formName] = [formName](addin::Context& context, const Str& argument) {
+        std::vector<Str> args;
+        if (!argument.empty()) args.push_back(argument);
+        context.Forms->Open(formName, args);
+    };
+}
+
+void RegisterBuilders(addin::Context& ctx) {
+    // Each builder adds itself here as it comes: RegisterBuilder(ctx, u"frmProcedure", ...).
+    (void)ctx;
+}
+
+}  // namespace quillet::builders

@@ -1,0 +1,51 @@
+#include "cli/project_session.h"
+
+#include "cli/caret_setup.h"
+#include "cli/diff.h"
+
+namespace quillet::cli {
+
+namespace files = hosts::files;
+namespace memory = hosts::memory;
+
+namespace {
+
+void printDiff(const std::vector<files::FileChange>& changes, std::ostream& out) {
+    for (const files::FileChange& change : changes) {
+        std::string path = files::displayPath(change.path);
+        bool created = change.kind == files::FileChange::Kind::Created;
+        bool removed = change.kind == files::FileChange::Kind::Removed;
+        if (removed && change.oldLines.empty()) {
+            out << "Binary file a/" << path << " removed\n";
+            continue;
+        }
+        DiffNames names{created ? "/dev/null" : "a/" + path, removed ? "/dev/null" : "b/" + path};
+        out << unifiedDiff(change.oldLines, change.newLines, names);
+    }
+}
+
+}  // namespace
+
+ProjectSession openSession(const ToolOptions& options) {
+    ProjectSession session;
+    session.vbe = memory::MemoryVBE::create();
+    files::LoadOptions load;
+    load.codePage = options.codePage;
+    const std::string& path = *options.project;
+    session.project = files::FileProject::load(session.vbe, std::filesystem::path(std::u8string(path.begin(), path.end())), load);
+    session.platform = std::make_shared<platform::ScriptedPlatform>();
+    placeCaret(*session.vbe, *session.project->project(), options);
+    wirePlatform(*session.platform, session.vbe);
+    for (const Str& answer : options.answers) session.platform->queueAnswer(answer);
+    return session;
+}
+
+void finishSession(ProjectSession& session, const ToolOptions& options, std::ostream& out) {
+    if (options.dryRun) {
+        printDiff(session.project->changes(), out);
+        return;
+    }
+    for (const files::FileChange& change : session.project->save()) out << files::displayPath(change.path) << "\n";
+}
+
+}  // namespace quillet::cli
