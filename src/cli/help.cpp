@@ -3,6 +3,7 @@
 #include <string>
 
 #include "addin/version.h"
+#include "cli/settings_command.h"
 
 namespace quillet::cli {
 
@@ -19,6 +20,7 @@ constexpr const char* kToolHelp =
     "  run      run a quick command at a place in a module\n"
     "  list     list the modules of a project\n"
     "  play     drive a builder's dialog with a UI script, then write the code\n"
+    "  settings show the settings, or change one (quillet settings set ...)\n"
     "  help     show the help of a command (quillet help run)\n"
     "  version  show the version\n"
     "\n"
@@ -100,6 +102,7 @@ std::string helpText(Verb verb) {
         case Verb::Run: return kRunHelp;
         case Verb::List: return kListHelp;
         case Verb::Play: return kPlayHelp;
+        case Verb::Settings: return settingsHelpText();
         default: return kToolHelp;
     }
 }

@@ -39,7 +39,8 @@ std::pair<Str, std::string> modulePart(const std::string& text, const std::strin
 
 Verb verbNamed(const std::string& word) {
     static const std::map<std::string, Verb> verbs = {
-        {"run", Verb::Run}, {"list", Verb::List}, {"play", Verb::Play}, {"help", Verb::Help}, {"version", Verb::Version}};
+        {"run", Verb::Run}, {"list", Verb::List}, {"play", Verb::Play}, {"help", Verb::Help}, {"version", Verb::Version},
+        {"settings", Verb::Settings}};
     auto found = verbs.find(word);
     if (found == verbs.end()) throw UsageError("unknown command \"" + word + "\"");
     return found->second;
@@ -72,13 +73,13 @@ private:
         std::string name = arg.substr(0, equals);
         std::optional<std::string> inlineValue;
         if (equals != std::string::npos) inlineValue = arg.substr(equals + 1);
-        if (name == "--help" || name == "--dry-run") {
+        if (name == "--help" || name == "--dry-run" || name == "--json") {
             if (inlineValue) throw UsageError(name + " takes no value");
-            (name == "--help" ? options_.help : options_.dryRun) = true;
+            (name == "--help" ? options_.help : name == "--json" ? options_.json : options_.dryRun) = true;
             return;
         }
-        static const std::set<std::string> valued = {"--project", "--at",       "--select",
-                                                     "--answer",  "--settings", "--code-page"};
+        static const std::set<std::string> valued = {"--project",  "--at",        "--select", "--answer",
+                                                     "--settings", "--code-page", "--data"};
         if (!valued.count(name)) throw UsageError("unknown option " + name);
         std::string value = inlineValue ? *inlineValue : next(name);
         if (name == "--project") {
@@ -91,6 +92,8 @@ private:
             options_.answers.push_back(basic::fromUtf8(value));
         } else if (name == "--settings") {
             options_.settings = value;
+        } else if (name == "--data") {
+            options_.data = value;
         } else if (name == "--code-page") {
             options_.codePage = hosts::files::codePageNamed(value);
             if (!options_.codePage) throw UsageError("unknown code page \"" + value + "\" (use 1252 or 65001)");
@@ -124,6 +127,18 @@ void checkPlay(ToolOptions& options, const std::vector<std::string>& positionals
     if (!options.project) throw UsageError("play needs --project PATH");
     if (!options.at && !options.select) throw UsageError("play needs --at MODULE:LINE[:COL] or --select MODULE:L1:C1-L2:C2");
     if (options.at && options.select) throw UsageError("give --at or --select, not both");
+}
+
+void checkSettings(ToolOptions& options, const std::vector<std::string>& positionals) {
+    if (options.project || options.at || options.select || !options.answers.empty() || options.dryRun ||
+        options.codePage) {
+        throw UsageError("settings takes only --settings, --data and --json");
+    }
+    if (positionals.empty()) return;
+    if (positionals[0] != "set") throw UsageError("unknown settings command \"" + positionals[0] + "\" (use set)");
+    if (positionals.size() != 4) throw UsageError("settings set needs SECTION KEY VALUE");
+    if (options.json) throw UsageError("settings set takes no --json");
+    for (size_t i = 1; i < 4; ++i) options.settingChange.push_back(basic::fromUtf8(positionals[i]));
 }
 
 void checkList(const ToolOptions& options, const std::vector<std::string>& positionals) {
@@ -181,6 +196,7 @@ ToolOptions parseArguments(const std::vector<std::string>& args) {
         case Verb::Run: checkRun(options, positionals); break;
         case Verb::List: checkList(options, positionals); break;
         case Verb::Play: checkPlay(options, positionals); break;
+        case Verb::Settings: checkSettings(options, positionals); break;
         case Verb::Help:
             // "quillet help run" is "quillet run --help".
             if (!positionals.empty()) {

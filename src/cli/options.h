@@ -33,7 +33,7 @@ struct SelectionSpec {
     long startLine = 1, startColumn = 1, endLine = 1, endColumn = 1;
 };
 
-enum class Verb { Help, Version, Run, List, Play };
+enum class Verb { Help, Version, Run, List, Play, Settings };
 
 struct ToolOptions {
     Verb verb = Verb::Help;
@@ -46,7 +46,10 @@ struct ToolOptions {
     std::optional<SelectionSpec> select;
     std::vector<Str> answers;
     bool dryRun = false;
-    std::optional<std::string> settings;  // the settings folder (kept for the commands that read settings)
+    std::optional<std::string> settings;  // the settings folder
+    std::optional<std::string> data;      // the folder of the files a fresh installation needs
+    bool json = false;                    // settings: print JSON
+    std::vector<Str> settingChange;       // settings set: SECTION, KEY and VALUE; empty to print
     std::optional<hosts::files::CodePage> codePage;
 };
 

@@ -5,6 +5,7 @@
 #include "cli/options.h"
 #include "cli/play_command.h"
 #include "cli/run_command.h"
+#include "cli/settings_command.h"
 #include "hosts/files/project_error.h"
 
 namespace quillet::cli {
@@ -12,7 +13,7 @@ namespace quillet::cli {
 namespace {
 
 std::string helpHint(const std::vector<std::string>& args) {
-    bool verb = !args.empty() && (args[0] == "run" || args[0] == "list" || args[0] == "play");
+    bool verb = !args.empty() && (args[0] == "run" || args[0] == "list" || args[0] == "play" || args[0] == "settings");
     return verb ? "Try 'quillet " + args[0] + " --help'." : "Try 'quillet --help'.";
 }
 
@@ -21,11 +22,14 @@ int dispatch(const ToolOptions& options, std::ostream& out, std::ostream& err) {
         out << helpText(options.verb);
         return kExitOk;
     }
+    if (options.verb == Verb::Run || options.verb == Verb::List || options.verb == Verb::Play)
+        prepareSettingsFiles(options, err);
     switch (options.verb) {
         case Verb::Version: out << versionText(); return kExitOk;
         case Verb::Run: return runCommand(options, out, err);
         case Verb::List: return listModules(options, out);
         case Verb::Play: return playScript(options, out, err);
+        case Verb::Settings: return settingsCommand(options, out, err);
         default: return kExitOk;
     }
 }

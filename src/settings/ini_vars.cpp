@@ -68,6 +68,11 @@ void storeValue(Settings& settings, long item, const Str& text) {
     slot = text;
 }
 
+bool keepsDefaultWhenEmpty(Settings& settings, long item) {
+    long type = Item2IniItemType(settings, item);
+    return type == IniTypeLong || type == IniTypeBoolean || type == IniTypeDate;
+}
+
 // Reads the items of one file; gives whether a value was missing.
 bool readFile(Settings& settings, const Str& fileName) {
     C4_IniFile ini(settings);
@@ -80,7 +85,9 @@ bool readFile(Settings& settings, const Str& fileName) {
             ini.Value(section, key, ValueText(ItemDefault(item)));
             changed = missing = true;
         } else {
-            storeValue(settings, item, ini.Value(section, key));
+            Str text = ini.Value(section, key);
+            storeValue(settings, item, text);
+            settings.IniItemFromFile[item] = !text.empty() || !keepsDefaultWhenEmpty(settings, item);
         }
     }
     if (changed && !ini.Name().empty()) ini.Save();
@@ -131,6 +138,7 @@ bool IniBool(Settings& settings, long item) {
 
 void SetDefaults(Settings& settings) {
     settings.IniItemValue.assign(IniItemCount, basic::Variant{});
+    settings.IniItemFromFile.assign(IniItemCount, false);
     for (long item = 0; item < IniItemCount; ++item) settings.IniItemValue[item] = ItemDefault(item);
 }
 

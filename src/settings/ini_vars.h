@@ -13,7 +13,7 @@ Str IniText(Settings& settings, long item);
 // An item's current value as a check box reads it.
 bool IniBool(Settings& settings, long item);
 
-// Every item takes its default.
+// Every item takes its default (and counts as not read from its file).
 void SetDefaults(Settings& settings);
 // Loads all items from their files, writing the defaults of missing keys back; at a first start
 // (connection) installs the shipped files when a value was missing (a fresh installation), then

@@ -67,6 +67,8 @@ public:
 
     // One value per catalogue item: a Boolean item holds a bool, every other a text.
     std::vector<basic::Variant> IniItemValue;
+    // Per item: whether its value was read from its file (false: the default stands).
+    std::vector<bool> IniItemFromFile;
     std::vector<TypePrefixRow> TypePrefixes;
 
 private:

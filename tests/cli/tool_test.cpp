@@ -30,6 +30,11 @@ protected:
     int run(std::vector<std::string> args) {
         out.str("");
         err.str("");
+        // The settings go to a folder of their own, never to the user's.
+        if (!args.empty()) {
+            args.insert(args.end(), {"--settings", settingsDir.path().string(), "--data",
+                                     (fs::path(QUILLET_SOURCE_DIR) / "data").string()});
+        }
         return runTool(args, out, err);
     }
     // The names of the files whose bytes or times differ from the start.
@@ -42,6 +47,7 @@ protected:
     }
 
     TempDir dir;
+    TempDir settingsDir;
     std::string project;
     std::map<std::string, std::pair<std::string, fs::file_time_type>> before;
     std::ostringstream out, err;
