@@ -3,6 +3,7 @@
 #include "settings/ini_vars.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 
 #include "basic/strings.h"
@@ -74,24 +75,42 @@ bool keepsDefaultWhenEmpty(Settings& settings, long item) {
 }
 
 // Reads the items of one file; gives whether a value was missing.
+// Adds the missing keys to a file that holds something already, one line each, so that every
+// other line stays as it was, even one the store does not understand ("a=b=c", a line without
+// "=", a second key of the same name). The first failure is reported and ends the writing.
+void addMissingKeys(Settings& settings, const Str& fileName, const std::vector<std::array<Str, 3>>& added) {
+    ProfileApi& profile = settings.Profile();
+    for (const auto& [section, key, value] : added) {
+        if (profile.WritePrivateProfileStringA(section, key, value, fileName) != 0) continue;
+        settings.reportError(VbError(profile.LastError(), u"Unable to save INI file section '" + section + u"'"),
+                             u"modIniVarsQuillet.InitializeGlobalVars");
+        return;
+    }
+}
+
 bool readFile(Settings& settings, const Str& fileName) {
     C4_IniFile ini(settings);
     ini.Name(fileName);
-    bool changed = false, missing = false;
+    bool fresh = ini.Count() == 0;
+    std::vector<std::array<Str, 3>> added;
     for (long item = 0; item < IniItemCount; ++item) {
         if (fileOfItem(settings, item) != fileName) continue;
         Str section = sectionOfItem(settings, item), key = Item2Name(settings, item);
         if (!ini.ValueExists(section, key)) {
             ini.Value(section, key, ValueText(ItemDefault(item)));
-            changed = missing = true;
+            added.push_back({section, key, ValueText(ItemDefault(item))});
         } else {
             Str text = ini.Value(section, key);
             storeValue(settings, item, text);
             settings.IniItemFromFile[item] = !text.empty() || !keepsDefaultWhenEmpty(settings, item);
         }
     }
-    if (changed && !ini.Name().empty()) ini.Save();
-    return missing;
+    if (added.empty() || ini.Name().empty()) return !added.empty();
+    if (fresh)
+        ini.Save();
+    else
+        addMissingKeys(settings, ini.Name(), added);
+    return true;
 }
 
 // Asks whether to open a tool window that is off; on Yes turns it on in memory and on disk.
