@@ -58,6 +58,7 @@ void clsScanProject::init(const Str& strModuleName, bool fReload) {
     if (fReload || !state.ProjectConsts) state.ProjectConsts = newCollection<clsConstant>();
     if (fReload || !state.ProjectEnums) state.ProjectEnums = newCollection<clsEnum>();
     if (fReload || !state.ProjectTypes) state.ProjectTypes = newCollection<clsType>();
+    if (fReload) state.ModuleSignatures.clear();
     reportedStep(env_.report, u"clsScanProject.init", [&] {
         if (!scanAllowed(env_.vbe)) return;
         auto project = env_.vbe.ActiveVBProject();
@@ -67,6 +68,8 @@ void clsScanProject::init(const Str& strModuleName, bool fReload) {
             ScanModule(components->Item(strModuleName));
             return;
         }
+        recordSignatures_ = true;
+        state.ScannedProject = projectName_;
         for (long i = 1; i <= components->Count(); ++i) {
             auto component = components->Item(i);
             if (!component->Name().empty()) ScanModule(component);
@@ -84,7 +87,12 @@ void clsScanProject::ScanModule(const host::VBComponentPtr& rVBComponent) {
         count = module ? readRetrying([&] { return module->CountOfLines(); }) : 0;
         if (count > 0) type = readRetrying([&] { return rVBComponent->Type(); });
     });
-    if (!readable || count == 0) return;
+    if (!readable) return;
+    if (count == 0) {
+        if (recordSignatures_)
+            reportedStep(env_.report, where, [&] { recordSignature(rVBComponent->Name(), ModuleText::fromText({})); });
+        return;
+    }
     ++ModulesScanned;
     Str moduleName;
     long declarationLines = 0;
@@ -95,6 +103,7 @@ void clsScanProject::ScanModule(const host::VBComponentPtr& rVBComponent) {
             declarationLines = module->CountOfDeclarationLines();
         }))
         return;
+    recordSignature(moduleName, *text);
     bool isStd = type == host::vbext_ct_StdModule;
     if (isStd) ModulePublicProcsGet(*module, *text, declarationLines);
 
@@ -135,6 +144,10 @@ void clsScanProject::ScanModule(const host::VBComponentPtr& rVBComponent) {
     }
 }
 
+void clsScanProject::recordSignature(const Str& moduleName, const ModuleText& text) {
+    if (recordSignatures_) env_.state.ModuleSignatures[signatureKey(moduleName)] = signatureOf(text);
+}
+
 void clsScanProject::ModulePublicProcsGet(host::CodeModule& rCodeModule, const ModuleText& text,
                                           long countOfDeclarationLines) {
     if (text.CountOfLines() <= 0) return;
@@ -170,6 +183,7 @@ void ModuleRemove(ProjectScanState& state, const Str& name) {
     removeOfModule(state.ProjectConsts, name, &clsConstant::ModuleName);
     removeOfModule(state.ProjectEnums, name, &clsEnum::Module);
     removeOfModule(state.ProjectTypes, name, &clsType::Module);
+    state.ModuleSignatures.erase(signatureKey(name));
 }
 
 }  // namespace quillet::source

@@ -23,13 +23,18 @@ private:
     void ScanModule(const host::VBComponentPtr& rVBComponent);
     void ModulePublicProcsGet(host::CodeModule& rCodeModule, const ModuleText& text, long countOfDeclarationLines);
 
+    // Whether each module scanned leaves its signature (a scan of the whole project does).
+    void recordSignature(const Str& moduleName, const ModuleText& text);
+
     ScanEnv env_;
     Str projectName_;
+    bool recordSignatures_ = false;
 };
 
 // Scans one module into the project-wide collections.
 void ModuleAdd(ScanEnv env, const Str& name);
-// Removes from the five collections every record of the module, ignoring case.
+// Removes from the five collections every record of the module, ignoring case, and forgets its
+// signature.
 void ModuleRemove(ProjectScanState& state, const Str& name);
 
 }  // namespace quillet::source

@@ -1,12 +1,15 @@
 #pragma once
 // The project-wide collections of the scan and what a scanner is given to work with.
 
+#include <cstdint>
+#include <map>
 #include <memory>
 
 #include "basic/collection.h"
 #include "host/objects.h"
 #include "source/declarations.h"
 #include "source/errors.h"
+#include "source/module_text.h"
 #include "source/proc_def.h"
 
 namespace quillet::source {
@@ -19,6 +22,15 @@ CollectionPtr<T> newCollection() {
     return std::make_shared<basic::Collection<std::shared_ptr<T>>>();
 }
 
+// What a module's text looked like when it was last scanned: enough to tell, from one read of
+// the module, whether it changed since.
+struct ModuleSignature {
+    long CountOfLines = 0;
+    std::uint64_t Hash = 0;
+    bool operator==(const ModuleSignature&) const = default;
+};
+ModuleSignature signatureOf(const ModuleText& text);
+
 // What is visible in the whole project. ProjectInitialize makes ProjectProcs; the project scan
 // makes the other four (or replaces them when told to reload).
 struct ProjectScanState {
@@ -27,7 +39,14 @@ struct ProjectScanState {
     CollectionPtr<clsConstant> ProjectConsts;    // by Name: public constants and public enums' members
     CollectionPtr<clsEnum> ProjectEnums;         // by Name
     CollectionPtr<clsType> ProjectTypes;         // by Name
+    // The project the collections describe, and the signature of each module as it was scanned
+    // (by module name folded to upper case); ProjectRefresh rescans only the modules that differ.
+    Str ScannedProject;
+    std::map<Str, ModuleSignature> ModuleSignatures;
 };
+
+// The key of a module in ModuleSignatures.
+Str signatureKey(const Str& moduleName);
 
 // What a scanner works with: the editor, the shared collections and where failures go.
 struct ScanEnv {
