@@ -25,19 +25,26 @@ Str reportMessage(const VbError& err, long line, const Str& procedure, const Str
     return message;
 }
 
-// Steps 3 and 4 of a delivery: bring the Immediate window up and paste the pending text.
-bool pasteIntoImmediate(Context& ctx) {
-    auto& platform = ctx.Platform();
+// The editor's Immediate window, made visible if it was not; none when the editor has none.
+host::WindowPtr shownImmediateWindow(Context& ctx) {
     auto windows = ctx.VBInstance->Windows();
     long count = windows->Count();
     for (long i = 1; i <= count; ++i) {
         auto window = windows->Item(i);
         if (window->Type() != host::vbext_wt_Immediate) continue;
         if (!window->Visible()) window->Visible(true);
+        return window;
+    }
+    return nullptr;
+}
+
+// Steps 3 and 4 of a delivery: bring the Immediate window up and paste the pending text.
+bool pasteIntoImmediate(Context& ctx) {
+    auto& platform = ctx.Platform();
+    if (auto window = shownImmediateWindow(ctx)) {
         ctx.ImmediateActive = true;
         window->SetFocus();
         if (ctx.ImmediateWindowHandle == 0) ctx.ImmediateWindowHandle = FindImmediateWindowHandle(ctx);
-        if (ctx.ImmediateWindowHandle > 0) break;
     }
     if (ctx.ImmediateWindowHandle == 0 || platform.GetFocus() != ctx.ImmediateWindowHandle) return false;
     platform.ClipboardClear();
@@ -107,17 +114,11 @@ host::WindowHandle FindImmediateWindowHandle(Context& ctx) noexcept {
     ignoringErrors([&] { focus = platform.GetFocus(); });
     host::WindowHandle handle = 0;
     ignoringErrors([&] {
-        auto windows = ctx.VBInstance->Windows();
-        long count = windows->Count();
-        for (long i = 1; i <= count; ++i) {
-            auto window = windows->Item(i);
-            if (window->Type() != host::vbext_wt_Immediate) continue;
-            if (!window->Visible()) window->Visible(true);
-            window->SetFocus();
-            auto active = ctx.VBInstance->ActiveWindow();
-            if (active && active->Type() == host::vbext_wt_Immediate) handle = platform.GetFocus();
-            break;
-        }
+        auto window = shownImmediateWindow(ctx);
+        if (!window) return;
+        window->SetFocus();
+        auto active = ctx.VBInstance->ActiveWindow();
+        if (active && active->Type() == host::vbext_wt_Immediate) handle = platform.GetFocus();
     });
     ignoringErrors([&] { platform.SetFocus(focus); });
     return handle;
