@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "basic/dispatch.h"
@@ -13,6 +14,8 @@
 #include "platform/platform.h"
 #include "settings/settings.h"
 #include "source/prefixes.h"
+#include "source/scan_module.h"
+#include "source/scan_proc.h"
 #include "source/scan_state.h"
 
 namespace quillet::addin {
@@ -29,6 +32,27 @@ struct QuickCommandState {
     Str Type;
     Str CurrentWord;
     Str SuggestedName;
+    // The scans initialize takes for the command: the module's, and the procedure's (none outside
+    // a procedure); the module's procedures, public ones included.
+    std::shared_ptr<source::clsScanModule> ModuleScan;
+    std::shared_ptr<source::clsScanProc> ProcScan;
+    basic::Collection<source::C4_ProcDefPtr> ModuleProcs;
+};
+
+class Context;
+// What the placeholder layer supplies to the commands that place code; each may be empty until it
+// is there, and the commands then leave out that step.
+struct FragmentServices {
+    // ExpandHeader(kind, name, description): 10008 the module header, 10005 the procedure header.
+    std::function<Str(Context&, long kind, const Str& name, const Str& description)> ExpandHeader;
+    // ErrorHandleModuleAdd: imports the error-handling module named by the settings.
+    std::function<void(Context&)> ErrorHandleModuleAdd;
+    // NormalizeErrorHandlerCode(text, module, procedure, type, fModuleConst, fProcConst).
+    std::function<void(Context&, Str& text, const Str& module, const Str& procedure, const Str& type, bool fModuleConst,
+                       bool fProcConst)>
+        NormalizeErrorHandlerCode;
+    // FragmentToProcedureAdd(text, scan): spreads a text with markers over the procedure at the caret.
+    std::function<void(Context&, Str& text, source::clsScanProc& scan)> FragmentToProcedureAdd;
 };
 
 // The Office application objects that the connectors hold. They live beside the connection,
@@ -106,6 +130,10 @@ public:
     // an argument at the caret (ExplicitArgumentAvailable).
     std::function<std::vector<Str>()> ErrorHandlersList;
     std::function<bool()> ExplicitArgumentAvailable;
+    FragmentServices Fragments;
+    // A choice from a list under a title ("Explicit Argument"); none for Cancel. Until the list
+    // dialog is there, an input box lists the entries and takes an entry or its number.
+    std::function<std::optional<Str>(Context&, const Str& title, const std::vector<Str>& items)> SelectFromList;
     // The command bar's controls and their click sinks, kept while connected.
     std::shared_ptr<CommandBarState> commandBar;
 

@@ -2,6 +2,7 @@
 
 #include "addin/err_handler.h"
 #include "addin/frm_timer.h"
+#include "addin/project_commands.h"
 #include "basic/strings.h"
 #include "settings/code_folders.h"
 #include "settings/ini_vars.h"
@@ -11,16 +12,11 @@
 
 namespace quillet::addin {
 
-namespace {
-
-// Outlook's main window stands in front of the editor; move it out of the way.
-void outlookStep(Context& ctx) {
+void OutlookStep(Context& ctx) {
     if (basic::StrComp(ctx.HostName, u"Outlook", basic::Compare::Text) != 0) return;
     ctx.Platform().CloseWindowOfClass(u"rctrl_renwnd32");
     ctx.VBInstance->Windows()->Item(1)->SetFocus();
 }
-
-}  // namespace
 
 void AddInInitialize(Context& ctx) noexcept {
     const Str where = u"basGlobal.AddInInitialize";
@@ -35,6 +31,7 @@ void AddInInitialize(Context& ctx) noexcept {
     });
     guarded(ctx, where, [&] { ctx.Keywords = source::keywordList(); });
     guarded(ctx, where, [&] { settings::MakeCodeFolders(settings); });
+    guarded(ctx, where, [&] { RegisterScanCommands(ctx); });
 }
 
 void AddInTerminate(Context& ctx) noexcept {
@@ -53,7 +50,7 @@ void AddInTerminate(Context& ctx) noexcept {
 
 void ProjectInitialize(Context& ctx, bool /*blnProjectOnly*/) noexcept {
     const Str where = u"basGlobal.ProjectInitialize";
-    guarded(ctx, where, [&] { outlookStep(ctx); });
+    guarded(ctx, where, [&] { OutlookStep(ctx); });
     if (ctx.TestingMode) guarded(ctx, where, [&] { AccessToolBarCreate(ctx); });
     guarded(ctx, where, [&] {
         ctx.Scan.ProjectProcs = source::newCollection<source::C4_ProcDef>();

@@ -9,6 +9,8 @@ namespace quillet::addin {
 void AddInInitialize(Context& ctx) noexcept;
 // Drops every global object, VBInstance among the last. Never throws.
 void AddInTerminate(Context& ctx) noexcept;
+// Outlook's main window stands in front of the editor: it is moved out of the way.
+void OutlookStep(Context& ctx);
 // Scans the active project; unless blnProjectOnly, the libraries too. Never throws.
 void ProjectInitialize(Context& ctx, bool blnProjectOnly) noexcept;
 

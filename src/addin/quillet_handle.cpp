@@ -5,8 +5,10 @@
 #include "addin/block_commands.h"
 #include "addin/caret.h"
 #include "addin/err_handler.h"
+#include "addin/procedure_commands.h"
+#include "addin/project_commands.h"
+#include "addin/scan_commands.h"
 #include "basic/strings.h"
-#include "source/current_proc.h"
 
 namespace quillet::addin {
 
@@ -22,13 +24,14 @@ struct Route {
 void insertCommandText(Context& ctx, const Str& command, const Str&) { CodeInsert(ctx, command); }
 
 void exitProcedure(Context& ctx, const Str&, const Str&) {
-    Str name;
-    long body = 0, last = 0, kind = 0;
-    if (!source::CurrentProcGet(*ctx.VBInstance, true, name, body, last, kind)) return;
-    auto module = ctx.VBInstance->ActiveCodePane()->CodeModule();
-    Str keyword = source::ProcTypeStrOf(module->Lines(body, 1));
-    if (!keyword.empty()) CodeInsert(ctx, u"Exit " + keyword);
+    const auto& scan = ctx.Quick.ProcScan;
+    if (scan && !scan->ProcTypeStr().empty()) CodeInsert(ctx, u"Exit " + scan->ProcTypeStr());
 }
+
+void errorHandling(Context& ctx, const Str&, const Str& type) { ErrorHandlingAdd(ctx, type); }
+void explicitArgument(Context& ctx, const Str&, const Str&) { ExplicitArgumentAdd(ctx); }
+void filename(Context& ctx, const Str&, const Str&) { FilenameAdd(ctx); }
+void folder(Context& ctx, const Str&, const Str&) { FoldernameAdd(ctx); }
 
 void ifBlock(Context& ctx, const Str& command, const Str&) { IfCodeInsert(ctx, command); }
 void loopBlock(Context& ctx, const Str& command, const Str&) { LoopCodeInsert(ctx, command); }
@@ -60,7 +63,7 @@ const std::vector<Route>& routes() {
         {u"Resume Next", insertCommandText},
         {u"Exit For", insertCommandText},
         {u"Exit", exitProcedure},
-        {u"ErrorHandling", notAvailableYet},
+        {u"ErrorHandling", errorHandling},
         {u"If Then", ifBlock},
         {u"If Then Else", ifBlock},
         {u"If Then Else If", ifBlock},
@@ -71,19 +74,14 @@ const std::vector<Route>& routes() {
         {u"ForEachNext", loopBlock},
         {u"ForNext", loopBlock},
         {u"While", loopBlock},
-        {u"Explicit Argument", notAvailableYet},
-        {u"Filename", notAvailableYet},
-        {u"Folder", notAvailableYet},
+        {u"Explicit Argument", explicitArgument},
+        {u"Filename", filename},
+        {u"Folder", folder},
         {u"Comment Lines Add", notAvailableYet},
         {u"Comment Lines Remove", notAvailableYet},
         {u"Insert Objectname", notAvailableYet},
     };
     return table;
-}
-
-// Takes the state of one command afresh.
-void initialize(Context& ctx, const Str& command, const Str& type) {
-    ctx.Quick = QuickCommandState{command, type, {}, {}};
 }
 
 }  // namespace

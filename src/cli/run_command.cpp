@@ -3,6 +3,7 @@
 #include <iomanip>
 
 #include "addin/context.h"
+#include "addin/project_commands.h"
 #include "addin/quillet_handle.h"
 #include "basic/strings.h"
 #include "cli/caret_setup.h"
@@ -70,6 +71,7 @@ int runCommand(const ToolOptions& options, std::ostream& out, std::ostream& err)
 
     addin::Context ctx(vbe, platform);
     ctx.reportListener = [&err](const Str& report) { err << basic::toUtf8(report) << "\n"; };
+    addin::RegisterScanCommands(ctx);
     addin::QuilletHandle(ctx, options.command, options.type);
 
     if (options.dryRun) {
