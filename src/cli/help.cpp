@@ -21,6 +21,7 @@ constexpr const char* kToolHelp =
     "  list     list the modules of a project\n"
     "  play     drive a builder's dialog with a UI script, then write the code\n"
     "  settings show the settings, or change one (quillet settings set ...)\n"
+    "  scan     show what the scans see of a project, a module or a procedure\n"
     "  help     show the help of a command (quillet help run)\n"
     "  version  show the version\n"
     "\n"
@@ -95,6 +96,23 @@ constexpr const char* kListHelp =
     "\n"
     "Lists the modules of the project: name, type and number of lines.\n";
 
+constexpr const char* kScanHelp =
+    "Usage: quillet scan --project PATH [--module NAME] [--at MODULE:LINE] [--json] [--code-page CP]\n"
+    "\n"
+    "Shows what Quillet's scans see of the project: the project-wide collections\n"
+    "(ProjectProcs, ProjectVars, ProjectConsts, ProjectEnums, ProjectTypes); with\n"
+    "--module, that module's scan instead (ModuleVars, ModuleConsts, ModuleEnums,\n"
+    "ModuleTypes, ModuleProcs); with --at, the scan of the procedure at that line too\n"
+    "(ProcVars, ProcConsts, ProcLabels and its line numbers).\n"
+    "\n"
+    "Options:\n"
+    "  --module NAME         a module's scan instead of the project's\n"
+    "  --at MODULE:LINE      the procedure at that line as well\n"
+    "  --json                one JSON object: each collection an array of its records\n"
+    "\n"
+    "Example:\n"
+    "  quillet scan --project examples/Invoicing --at basMain:3 --json\n";
+
 }  // namespace
 
 std::string helpText(Verb verb) {
@@ -103,6 +121,7 @@ std::string helpText(Verb verb) {
         case Verb::List: return kListHelp;
         case Verb::Play: return kPlayHelp;
         case Verb::Settings: return settingsHelpText();
+        case Verb::Scan: return kScanHelp;
         default: return kToolHelp;
     }
 }

@@ -5,6 +5,8 @@
 #include <map>
 #include <set>
 
+#include "basic/strings.h"
+
 namespace quillet::cli {
 
 namespace {
@@ -40,7 +42,7 @@ std::pair<Str, std::string> modulePart(const std::string& text, const std::strin
 Verb verbNamed(const std::string& word) {
     static const std::map<std::string, Verb> verbs = {
         {"run", Verb::Run}, {"list", Verb::List}, {"play", Verb::Play}, {"help", Verb::Help}, {"version", Verb::Version},
-        {"settings", Verb::Settings}};
+        {"settings", Verb::Settings}, {"scan", Verb::Scan}};
     auto found = verbs.find(word);
     if (found == verbs.end()) throw UsageError("unknown command \"" + word + "\"");
     return found->second;
@@ -79,7 +81,8 @@ private:
             return;
         }
         static const std::set<std::string> valued = {"--project",  "--at",        "--select", "--answer",
-                                                     "--settings", "--code-page", "--data"};
+                                                     "--settings", "--code-page", "--data",
+                                                     "--module"};
         if (!valued.count(name)) throw UsageError("unknown option " + name);
         std::string value = inlineValue ? *inlineValue : next(name);
         if (name == "--project") {
@@ -94,6 +97,8 @@ private:
             options_.settings = value;
         } else if (name == "--data") {
             options_.data = value;
+        } else if (name == "--module") {
+            options_.scanModule = basic::fromUtf8(value);
         } else if (name == "--code-page") {
             options_.codePage = hosts::files::codePageNamed(value);
             if (!options_.codePage) throw UsageError("unknown code page \"" + value + "\" (use 1252 or 65001)");
@@ -139,6 +144,18 @@ void checkSettings(ToolOptions& options, const std::vector<std::string>& positio
     if (positionals.size() != 4) throw UsageError("settings set needs SECTION KEY VALUE");
     if (options.json) throw UsageError("settings set takes no --json");
     for (size_t i = 1; i < 4; ++i) options.settingChange.push_back(basic::fromUtf8(positionals[i]));
+}
+
+void checkScan(const ToolOptions& options, const std::vector<std::string>& positionals) {
+    if (!positionals.empty()) throw UsageError("scan takes no arguments; unexpected \"" + positionals[0] + "\"");
+    if (!options.project) throw UsageError("scan needs --project PATH");
+    if (options.select || !options.answers.empty() || options.dryRun) {
+        throw UsageError("scan takes only --project, --module, --at, --json and --code-page");
+    }
+    if (options.at && options.scanModule &&
+        basic::StrComp(*options.scanModule, options.at->module, basic::Compare::Text) != 0) {
+        throw UsageError("--at and --module name different modules");
+    }
 }
 
 void checkList(const ToolOptions& options, const std::vector<std::string>& positionals) {
@@ -197,6 +214,7 @@ ToolOptions parseArguments(const std::vector<std::string>& args) {
         case Verb::List: checkList(options, positionals); break;
         case Verb::Play: checkPlay(options, positionals); break;
         case Verb::Settings: checkSettings(options, positionals); break;
+        case Verb::Scan: checkScan(options, positionals); break;
         case Verb::Help:
             // "quillet help run" is "quillet run --help".
             if (!positionals.empty()) {

@@ -33,7 +33,7 @@ struct SelectionSpec {
     long startLine = 1, startColumn = 1, endLine = 1, endColumn = 1;
 };
 
-enum class Verb { Help, Version, Run, List, Play, Settings };
+enum class Verb { Help, Version, Run, List, Play, Settings, Scan };
 
 struct ToolOptions {
     Verb verb = Verb::Help;
@@ -48,7 +48,8 @@ struct ToolOptions {
     bool dryRun = false;
     std::optional<std::string> settings;  // the settings folder
     std::optional<std::string> data;      // the folder of the files a fresh installation needs
-    bool json = false;                    // settings: print JSON
+    bool json = false;                    // settings, scan: print JSON
+    std::optional<Str> scanModule;        // scan: --module NAME
     std::vector<Str> settingChange;       // settings set: SECTION, KEY and VALUE; empty to print
     std::optional<hosts::files::CodePage> codePage;
 };

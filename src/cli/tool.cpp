@@ -5,6 +5,7 @@
 #include "cli/options.h"
 #include "cli/play_command.h"
 #include "cli/run_command.h"
+#include "cli/scan_command.h"
 #include "cli/settings_command.h"
 #include "hosts/files/project_error.h"
 
@@ -13,7 +14,8 @@ namespace quillet::cli {
 namespace {
 
 std::string helpHint(const std::vector<std::string>& args) {
-    bool verb = !args.empty() && (args[0] == "run" || args[0] == "list" || args[0] == "play" || args[0] == "settings");
+    bool verb = !args.empty() && (args[0] == "run" || args[0] == "list" || args[0] == "play" || args[0] == "settings" ||
+                             args[0] == "scan");
     return verb ? "Try 'quillet " + args[0] + " --help'." : "Try 'quillet --help'.";
 }
 
@@ -30,6 +32,7 @@ int dispatch(const ToolOptions& options, std::ostream& out, std::ostream& err) {
         case Verb::List: return listModules(options, out);
         case Verb::Play: return playScript(options, out, err);
         case Verb::Settings: return settingsCommand(options, out, err);
+        case Verb::Scan: return scanProject(options, out, err);
         default: return kExitOk;
     }
 }
