@@ -139,5 +139,22 @@ TEST_F(FragmentMarkers, TheEndOfTopMarkerIsDropped) {
     EXPECT_EQ(merge(u"<end_of_top>\r\n    a = 1\r\n<end_of_top>", kBody), u"Public Sub Foo()\r\n    a = 1\r\n\r\nEnd Sub\r\n");
 }
 
+TEST_F(FragmentMarkers, TheBottomGoesAboveAnExitWithoutLabel) {
+    openModule({u"Public Sub Foo()", u"    a = 1", u"    Exit Sub", u"End Sub"}, 2, 5);
+    add(u"<begin_of_bottom>\r\n    a = 2\r\n");
+    EXPECT_EQ(moduleText(), u"Public Sub Foo()\r\n    a = 1\r\n    a = 2\r\n    Exit Sub\r\nEnd Sub");
+}
+
+TEST_F(FragmentMarkers, AnExitInAOneLineIfIsNoExitSection) {
+    openModule({u"Public Sub Foo()", u"    If a Then Exit Sub", u"    a = 1", u"End Sub"}, 3, 5);
+    add(u"<begin_of_bottom>\r\n    a = 2\r\n");
+    EXPECT_EQ(moduleText(), u"Public Sub Foo()\r\n    If a Then Exit Sub\r\n    a = 1\r\n    a = 2\r\nEnd Sub");
+}
+
+TEST_F(FragmentMarkers, InTextTheBottomGoesAboveAnExitWithoutLabel) {
+    EXPECT_EQ(merge(u"<begin_of_bottom>    b = 2\r\n", u"Public Sub Foo()\r\n    a = 1\r\n    Exit Sub\r\nEnd Sub\r\n"),
+              u"Public Sub Foo()\r\n    a = 1\r\n    b = 2\r\n    Exit Sub\r\nEnd Sub\r\n");
+}
+
 }  // namespace
 }  // namespace quillet::fragments

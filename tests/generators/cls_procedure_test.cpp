@@ -270,5 +270,15 @@ TEST_F(ProcedureGenerator, ArgumentsBehindADeletedOneMoveUp) {
     EXPECT_EQ(p.GenerateCode(), u"Public Sub Foo(a As Long, c As Long, d As Long)\r\n\r\nEnd Sub\r\n");
 }
 
+TEST_F(ProcedureGenerator, ABadNumberIsReportedAndTheTextGoesOn) {
+    auto p = procedure(u"Public", u"Sub", u"Foo");
+    argument(p, u"a", u"Long", 5);
+    EXPECT_EQ(p.GenerateCode(), u"Public Sub Foo()\r\n\r\nEnd Sub\r\n");
+    EXPECT_EQ(p.ArgumentsOrderIsBad(), 0);
+    ASSERT_EQ(reports.size(), 2u);
+    EXPECT_NE(reports[0].find(u"clsProcedure.GetArgString"), Str::npos);
+    EXPECT_NE(reports[1].find(u"clsProcedure.ArgumentsOrderIsBad"), Str::npos);
+}
+
 }  // namespace
 }  // namespace quillet::generators

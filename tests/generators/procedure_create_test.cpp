@@ -37,13 +37,9 @@ TEST_F(ProcedureCreate, BehindTheDeclarations) {
     openModule({u"Option Explicit", u"Dim m As Long", u"", u"Public Sub Old()", u"End Sub"}, 1);
     auto p = procedure(u"Foo");
     p.Create(p.GenerateCode(), project, false, true);
-    Str text = moduleText();
-    EXPECT_LT(text.find(u"Public Sub Foo()"), text.find(u"Public Sub Old()"));
-    EXPECT_GT(text.find(u"Public Sub Foo()"), text.find(u"Dim m As Long"));
-    long line = 0, col = 0;
-    caret(line, col);
-    EXPECT_EQ(vbe->ActiveCodePane()->CodeModule()->Lines(line - 1, 1), u"Public Sub Foo()");
-    EXPECT_EQ(col, 5);
+    EXPECT_EQ(moduleText(), u"Option Explicit\r\nDim m As Long\r\nPublic Sub Foo()\r\n    \r\nEnd Sub\r\n\r\n"
+                            u"Public Sub Old()\r\nEnd Sub");
+    EXPECT_EQ(caretAt(), std::make_pair(4L, 5L));
 }
 
 TEST_F(ProcedureCreate, TheCaretGoesBehindTheDeclarationArea) {
