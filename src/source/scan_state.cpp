@@ -1,19 +1,18 @@
 #include "source/scan_state.h"
 
+#include <functional>
+#include <string_view>
+
 #include "basic/strings.h"
 
 namespace quillet::source {
 
 ModuleSignature signatureOf(const ModuleText& text) {
-    // FNV-1a over the lines and their breaks.
+    // Each line's hash mixed into the whole; a line's position counts through the mixing.
     std::uint64_t hash = 14695981039346656037ull;
-    auto mix = [&hash](char16_t unit) {
-        hash ^= static_cast<std::uint64_t>(unit);
-        hash *= 1099511628211ull;
-    };
     for (long n = 1; n <= text.CountOfLines(); ++n) {
-        for (char16_t unit : text.line(n)) mix(unit);
-        mix(u'\n');
+        hash ^= std::hash<std::u16string_view>{}(text.line(n));
+        hash *= 1099511628211ull;
     }
     return ModuleSignature{text.CountOfLines(), hash};
 }
