@@ -73,4 +73,7 @@ private:
     std::unique_ptr<source::colArguments> Arguments_;
 };
 
+// The procedures of a class under construction, each under its name and a random number (its ID).
+using colProcedures = source::RandomKeyedCollection<clsProcedure, &clsProcedure::ID>;
+
 }  // namespace quillet::generators

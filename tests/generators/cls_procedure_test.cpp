@@ -280,5 +280,18 @@ TEST_F(ProcedureGenerator, ABadNumberIsReportedAndTheTextGoesOn) {
     EXPECT_NE(reports[1].find(u"clsProcedure.ArgumentsOrderIsBad"), Str::npos);
 }
 
+TEST_F(ProcedureGenerator, ProceduresOfOneNameLiveSideBySide) {
+    colProcedures procedures;
+    auto get = std::make_shared<clsProcedure>(procedure(u"Public", u"Property", u"Count", u"Long"));
+    auto let = std::make_shared<clsProcedure>(procedure(u"Public", u"Property", u"Count"));
+    procedures.Add(get);
+    procedures.Add(let);
+    EXPECT_EQ(procedures.Count(), 2);
+    EXPECT_NE(get->ID, let->ID);
+    EXPECT_EQ(basic::Left(get->ID, 5), u"Count");
+    procedures.Remove(get->ID);
+    EXPECT_EQ(procedures.Item(1), let);
+}
+
 }  // namespace
 }  // namespace quillet::generators
