@@ -26,3 +26,11 @@ endif()
 if(QUILLET_WINE_HARNESS AND EXISTS ${CMAKE_SOURCE_DIR}/tests/wine/CMakeLists.txt)
   add_subdirectory(${CMAKE_SOURCE_DIR}/tests/wine ${CMAKE_BINARY_DIR}/tests/wine)
 endif()
+
+# The comparison of the portable profile functions with the Windows ones, run under Wine by
+# scripts/run-wine-tests.sh.
+if(QUILLET_WINE_HARNESS AND EXISTS ${CMAKE_SOURCE_DIR}/tests/wine/profile)
+  file(GLOB QUILLET_PROFILE_COMPARE_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/wine/profile/*.cpp)
+  add_executable(quillet_profile_compare ${QUILLET_PROFILE_COMPARE_SOURCES})
+  target_link_libraries(quillet_profile_compare PRIVATE quillet_win)
+endif()

@@ -35,7 +35,7 @@ buildArch() {
     start=$(date +%s)
     cmake -S "$ROOT" -B "$dir" -DCMAKE_TOOLCHAIN_FILE="$ROOT/cmake/$toolchain.cmake" \
         -DCMAKE_BUILD_TYPE="$BUILD_TYPE" -DQUILLET_TESTS=OFF -DQUILLET_BENCH=OFF >"$dir.configure.log" 2>&1 &&
-        cmake --build "$dir" -j"$JOBS" --target Quillet quillet_wine_harness >"$dir.build.log" 2>&1
+        cmake --build "$dir" -j"$JOBS" --target Quillet quillet_wine_harness quillet_profile_compare >"$dir.build.log" 2>&1
     status=$?
     note "$arch-bit build took $(( $(date +%s) - start )) s"
     if [ $status -ne 0 ]; then
@@ -52,14 +52,20 @@ runArch() {
     mkdir -p "$ROOT/build-wine"
     export WINEPREFIX="$prefix"
     start=$(date +%s)
-    wineboot -i >/dev/null 2>&1
-    dll=$(winepath -w "$dir/Quillet.dll" 2>/dev/null)
     log=$ROOT/build-wine/harness$arch.log
-    xvfb-run -a wine "$dir/tests/wine/quillet_wine_harness.exe" "$dll" >"$log" 2>&1
+    # The prefix is made inside the virtual X server: a Wine desktop started without a display
+    # stays without one, and no window could be made in it.
+    xvfb-run -a sh -c 'wineboot -i >/dev/null 2>&1; wine "$1" "$(winepath -w "$2")"' harness \
+        "$dir/tests/wine/quillet_wine_harness.exe" "$dir/Quillet.dll" >"$log" 2>&1
     status=$?
     wineserver -w 2>/dev/null
     grep -E '^(FAIL  |      )' "$log" || true
     tail -n 1 "$log"
+    # The portable profile functions against Wine's (its own log; a failure fails the run).
+    plog=$ROOT/build-wine/profile$arch.log
+    wine "$dir/quillet_profile_compare.exe" >"$plog" 2>&1 || status=1
+    grep -E '^(FAIL  |      )' "$plog" || true
+    tail -n 1 "$plog"
     note "$arch-bit harness took $(( $(date +%s) - start )) s (prefix included)"
     return $status
 }
