@@ -31,6 +31,10 @@ public:
     bool FileExists(const Str& path) override;
     void ShellOpen(const Str& target) override;
     void CloseWindowOfClass(const Str& className) override;
+    // The common dialogs of file_dialogs.h (win_platform_dialogs.cpp).
+    std::optional<FileDialogChoice> ShowOpenFileDialog(const FileDialogRequest& request) override;
+    std::optional<FileDialogChoice> ShowSaveFileDialog(const FileDialogRequest& request) override;
+    std::optional<Str> BrowseForFolder(const Str& title, const Str& startFolder) override;
     basic::DispatchPtr FacePicture(long faceId, bool mask) override;
     void ClipboardSetFace(long faceId) override;
 
