@@ -4,6 +4,7 @@
 #include "hosts/com/com_dispatch.h"
 #include "hosts/com/com_host.h"
 #include "platform/win/win_platform.h"
+#include "platform/win/win_profile.h"
 
 namespace quillet::win32 {
 
@@ -33,6 +34,10 @@ HRESULT ConnectObject::OnConnection(IDispatch* application, long connectMode, ID
         if (!connect_) {
             connect_ = std::make_unique<addin::Connect>(std::make_shared<platform::win::WinPlatform>(module().handle()),
                                                         module().hostApplications());
+            // The settings files go through the Windows profile functions themselves.
+            connect_->prepareContext([](addin::Context& ctx) {
+                ctx.IniSettings->setProfile(std::make_unique<platform::win::WinProfile>());
+            });
         }
         if (!timers_) timers_ = std::make_shared<TimerWindow>(module().handle(), [this] { return timerForm(); });
         // A click may change an interval: the timers catch up after each one.
