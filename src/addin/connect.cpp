@@ -5,7 +5,6 @@
 #include "addin/frm_timer.h"
 #include "addin/lifecycle.h"
 #include "basic/strings.h"
-#include "builders/builder_registry.h"
 #include "settings/catalogue.h"
 #include "settings/ini_vars.h"
 
@@ -73,7 +72,6 @@ void Connect::bringUp(const host::VBEPtr& application, const basic::DispatchPtr&
     });
     ctx.ImmediateWindowHandle = FindImmediateWindowHandle(ctx);
     AddInInitialize(ctx);
-    guarded(ctx, where, [&] { builders::RegisterBuilders(ctx); });
     ctx.CurrentProjectFile.clear();
     ctx.TimerForm = std::make_unique<frmTimer>(ctx);
     host::CommandBarPtr bar;

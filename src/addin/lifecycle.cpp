@@ -7,6 +7,8 @@
 #include "settings/code_folders.h"
 #include "settings/ini_vars.h"
 #include "addin/command_bar.h"
+#include "builders/builder_registry.h"
+#include "fragments/services.h"
 #include "source/keywords.h"
 #include "source/scan_project.h"
 

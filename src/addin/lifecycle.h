@@ -5,7 +5,8 @@
 
 namespace quillet::addin {
 
-// Settings, type prefixes, keywords and the code folders. Never throws.
+// Settings, type prefixes, keywords, the code folders, the fragment services and the builders.
+// Never throws.
 void AddInInitialize(Context& ctx) noexcept;
 // Drops every global object, VBInstance among the last. Never throws.
 void AddInTerminate(Context& ctx) noexcept;

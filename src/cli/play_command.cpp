@@ -6,7 +6,6 @@
 #include "addin/context.h"
 #include "addin/lifecycle.h"
 #include "basic/strings.h"
-#include "builders/builder_registry.h"
 #include "cli/project_session.h"
 #include "cli/tool.h"
 #include "dialogs/ui_player.h"
@@ -66,7 +65,6 @@ int playScript(const ToolOptions& options, std::ostream& out, std::ostream& err)
     if (options.settings) ctx.IniSettings->SettingsFolder = *options.settings;
     addin::AddInInitialize(ctx);
     addin::ProjectInitialize(ctx, true);
-    builders::RegisterBuilders(ctx);
     dialogs::UiScriptOutcome outcome = dialogs::playUiCommands(commands, *ctx.Forms, hooksOf(session));
     if (!outcome.passed()) {
         report(err, *options.script, outcome.line, outcome.message);
