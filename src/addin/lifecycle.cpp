@@ -20,13 +20,13 @@ void OutlookStep(Context& ctx) {
     ctx.VBInstance->Windows()->Item(1)->SetFocus();
 }
 
-void AddInInitialize(Context& ctx) noexcept {
+void AddInInitialize(Context& ctx, bool firstStartRun) noexcept {
     const Str where = u"basGlobal.AddInInitialize";
     auto& settings = *ctx.IniSettings;
     settings.ReportError = [&ctx](const basic::VbError& error, const Str& source) {
         HandleError(ctx, error, 0, source);
     };
-    guarded(ctx, where, [&] { settings::InitializeGlobalVars(settings, true); });
+    guarded(ctx, where, [&] { settings::InitializeGlobalVars(settings, firstStartRun); });
     guarded(ctx, where, [&] { settings::TypePrefixFromIniFile(settings); });
     guarded(ctx, where, [&] {
         ctx.Prefixes = source::PrefixesCollectionsCreate(source::prefixSettingsOf(settings), settings.TypePrefixes);

@@ -60,11 +60,7 @@ int playScript(const ToolOptions& options, std::ostream& out, std::ostream& err)
 
     ProjectSession session = openSession(options);
     addin::Context ctx(session.vbe, session.platform);
-    ctx.reportListener = [&err](const Str& message) { err << basic::toUtf8(message) << "\n"; };
-    // As the add-in connects: the settings, then the scan of the project.
-    if (options.settings) ctx.IniSettings->SettingsFolder = *options.settings;
-    addin::AddInInitialize(ctx);
-    addin::ProjectInitialize(ctx, true);
+    startAddin(ctx, options, err);
     dialogs::UiScriptOutcome outcome = dialogs::playUiCommands(commands, *ctx.Forms, hooksOf(session));
     if (!outcome.passed()) {
         report(err, *options.script, outcome.line, outcome.message);

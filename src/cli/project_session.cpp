@@ -1,5 +1,7 @@
 #include "cli/project_session.h"
 
+#include "addin/lifecycle.h"
+#include "basic/unicode.h"
 #include "cli/caret_setup.h"
 #include "cli/diff.h"
 
@@ -26,18 +28,30 @@ void printDiff(const std::vector<files::FileChange>& changes, std::ostream& out)
 
 }  // namespace
 
-ProjectSession openSession(const ToolOptions& options) {
-    ProjectSession session;
-    session.vbe = memory::MemoryVBE::create();
+std::unique_ptr<files::FileProject> loadProjectFiles(const ToolOptions& options,
+                                                     const std::shared_ptr<memory::MemoryVBE>& vbe) {
     files::LoadOptions load;
     load.codePage = options.codePage;
     const std::string& path = *options.project;
-    session.project = files::FileProject::load(session.vbe, std::filesystem::path(std::u8string(path.begin(), path.end())), load);
+    return files::FileProject::load(vbe, std::filesystem::path(std::u8string(path.begin(), path.end())), load);
+}
+
+ProjectSession openSession(const ToolOptions& options) {
+    ProjectSession session;
+    session.vbe = memory::MemoryVBE::create();
+    session.project = loadProjectFiles(options, session.vbe);
     session.platform = std::make_shared<platform::ScriptedPlatform>();
     placeCaret(*session.vbe, *session.project->project(), options);
     wirePlatform(*session.platform, session.vbe);
     for (const Str& answer : options.answers) session.platform->queueAnswer(answer);
     return session;
+}
+
+void startAddin(addin::Context& ctx, const ToolOptions& options, std::ostream& err) {
+    ctx.reportListener = [&err](const Str& message) { err << basic::toUtf8(message) << "\n"; };
+    if (options.settings) ctx.IniSettings->SettingsFolder = *options.settings;
+    addin::AddInInitialize(ctx, false);
+    addin::ProjectInitialize(ctx, true);
 }
 
 void finishSession(ProjectSession& session, const ToolOptions& options, std::ostream& out) {

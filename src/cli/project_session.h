@@ -6,6 +6,7 @@
 #include <memory>
 #include <ostream>
 
+#include "addin/context.h"
 #include "cli/options.h"
 #include "hosts/files/file_project.h"
 #include "hosts/memory/vbe.h"
@@ -19,8 +20,17 @@ struct ProjectSession {
     std::shared_ptr<platform::ScriptedPlatform> platform;
 };
 
+// The project of --project (in its --code-page) loaded into the editor; throws
+// hosts::files::ProjectError when it cannot be read.
+std::unique_ptr<hosts::files::FileProject> loadProjectFiles(const ToolOptions& options,
+                                                            const std::shared_ptr<hosts::memory::MemoryVBE>& vbe);
+
 // Throws hosts::files::ProjectError for a project that cannot be read and a place that does not exist.
 ProjectSession openSession(const ToolOptions& options);
+
+// What the add-in does at connection, for the tool: reports go to `err`, the settings come from
+// --settings (or the usual folders), then the project is scanned.
+void startAddin(addin::Context& ctx, const ToolOptions& options, std::ostream& err);
 
 // --dry-run: prints a unified diff of the changes. Otherwise writes the changed files and prints
 // their names, one a line.

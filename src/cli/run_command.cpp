@@ -6,8 +6,7 @@
 #include "addin/project_commands.h"
 #include "addin/quillet_handle.h"
 #include "basic/strings.h"
-#include "cli/caret_setup.h"
-#include "cli/diff.h"
+#include "cli/project_session.h"
 #include "cli/tool.h"
 #include "hosts/files/file_project.h"
 #include "hosts/files/project_error.h"
@@ -20,28 +19,6 @@ namespace files = hosts::files;
 namespace memory = hosts::memory;
 
 namespace {
-
-std::unique_ptr<files::FileProject> loadProject(const ToolOptions& options,
-                                                const std::shared_ptr<memory::MemoryVBE>& vbe) {
-    files::LoadOptions load;
-    load.codePage = options.codePage;
-    std::string project = *options.project;
-    return files::FileProject::load(vbe, std::filesystem::path(std::u8string(project.begin(), project.end())), load);
-}
-
-void printDiff(const std::vector<files::FileChange>& changes, std::ostream& out) {
-    for (const files::FileChange& change : changes) {
-        std::string path = files::displayPath(change.path);
-        bool created = change.kind == files::FileChange::Kind::Created;
-        bool removed = change.kind == files::FileChange::Kind::Removed;
-        if (removed && change.oldLines.empty()) {
-            out << "Binary file a/" << path << " removed\n";
-            continue;
-        }
-        DiffNames names{created ? "/dev/null" : "a/" + path, removed ? "/dev/null" : "b/" + path};
-        out << unifiedDiff(change.oldLines, change.newLines, names);
-    }
-}
 
 const char* typeName(long type) {
     switch (type) {
@@ -62,29 +39,16 @@ const char* typeName(long type) {
 }  // namespace
 
 int runCommand(const ToolOptions& options, std::ostream& out, std::ostream& err) {
-    auto vbe = memory::MemoryVBE::create();
-    auto project = loadProject(options, vbe);
-    auto platform = std::make_shared<platform::ScriptedPlatform>();
-    placeCaret(*vbe, *project->project(), options);
-    wirePlatform(*platform, vbe);
-    for (const Str& answer : options.answers) platform->queueAnswer(answer);
-
-    addin::Context ctx(vbe, platform);
-    ctx.reportListener = [&err](const Str& report) { err << basic::toUtf8(report) << "\n"; };
-    addin::RegisterScanCommands(ctx);
+    ProjectSession session = openSession(options);
+    addin::Context ctx(session.vbe, session.platform);
+    startAddin(ctx, options, err);
     addin::QuilletHandle(ctx, options.command, options.type);
-
-    if (options.dryRun) {
-        printDiff(project->changes(), out);
-        return kExitOk;
-    }
-    for (const files::FileChange& change : project->save()) out << files::displayPath(change.path) << "\n";
+    finishSession(session, options, out);
     return kExitOk;
 }
 
 int listModules(const ToolOptions& options, std::ostream& out) {
-    auto vbe = memory::MemoryVBE::create();
-    auto project = loadProject(options, vbe);
+    auto project = loadProjectFiles(options, memory::MemoryVBE::create());
     size_t width = 4;
     for (const auto& component : project->project()->components()) {
         width = std::max(width, basic::toUtf8(component->name()).size());
