@@ -1,5 +1,7 @@
 #include "builders/builder_registry.h"
 
+#include "builders/frm_procedure.h"
+
 namespace quillet::builders {
 
 void RegisterBuilder(addin::Context& ctx, const Str& formName, dialogs::FormStack::Opener opener) {
@@ -12,8 +14,8 @@ void RegisterBuilder(addin::Context& ctx, const Str& formName, dialogs::FormStac
 }
 
 void RegisterBuilders(addin::Context& ctx) {
-    // Each builder adds itself here as it comes: RegisterBuilder(ctx, u"frmProcedure", ...).
-    (void)ctx;
+    // Each builder adds itself here as it comes.
+    RegisterBuilder(ctx, u"frmProcedure", [&ctx](const std::vector<Str>& args) { OpenProcedureBuilder(ctx, args); });
 }
 
 }  // namespace quillet::builders
