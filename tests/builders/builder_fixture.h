@@ -1,0 +1,58 @@
+#pragma once
+// The builders over the editor in memory: a project with a standard module (basMain, the caret
+// on its blank line) and a class module (clsOrder), settings with every builder option off, the
+// builders registered, and UI scripts played against it.
+
+#include <fstream>
+#include <sstream>
+
+#include "../fragments/fragments_fixture.h"
+#include "addin/scan_commands.h"
+#include "builders/builder_registry.h"
+#include "dialogs/ui_player.h"
+#include "settings/ini_vars.h"
+#include "source/keywords.h"
+
+namespace quillet::testing {
+
+class BuilderFixture : public FragmentsFixture {
+protected:
+    BuilderFixture() {
+        for (long item : {settings::iiAddHeaderProcedure, settings::iiAddProcedureConstant,
+                          settings::iiAddModuleConstantProcedure, settings::iiAddHourglassProcedure,
+                          settings::iiArgumentsOnSeparateLines, settings::iiAddReturnStatement})
+            settings().IniItemValue[item] = false;
+        set(settings::iiModuleNameConstant, u"cstrModule");
+        set(settings::iiProcedureNameConstant, u"cstrProcedure");
+        ctx->HostName = u"Excel";
+        ctx->Keywords = source::keywordList();
+        openModule({u"Option Explicit", u"", u"Public Sub Existing()", u"End Sub"}, 2, 1);
+        project->addComponent(u"clsOrder", host::vbext_ct_ClassModule, {u"Option Explicit"});
+        builders::RegisterBuilders(*ctx);
+        hooks.answer = [this](const Str& answer) { platform->queueAnswer(answer); };
+        hooks.moduleText = [this](const Str& module) -> std::optional<Str> {
+            auto component = project->component(module);
+            if (!component) return std::nullopt;
+            return moduleText(module);
+        };
+    }
+
+    dialogs::UiScriptOutcome play(const std::string& script) {
+        return dialogs::playUiScript(basic::fromUtf8(script), *ctx->Forms, hooks);
+    }
+    static std::string scriptFile(const std::string& name) {
+        std::ifstream in(std::string(QUILLET_SOURCE_DIR) + "/tests/builders/scripts/" + name, std::ios::binary);
+        std::ostringstream text;
+        text << in.rdbuf();
+        return text.str();
+    }
+    // The dialog on top, as its class.
+    template <class F>
+    F& top() {
+        return dynamic_cast<F&>(*ctx->Forms->Top());
+    }
+
+    dialogs::UiScriptHooks hooks;
+};
+
+}  // namespace quillet::testing
