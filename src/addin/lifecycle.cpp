@@ -34,6 +34,8 @@ void AddInInitialize(Context& ctx, bool firstStartRun) noexcept {
     guarded(ctx, where, [&] { ctx.Keywords = source::keywordList(); });
     guarded(ctx, where, [&] { settings::MakeCodeFolders(settings); });
     guarded(ctx, where, [&] { RegisterScanCommands(ctx); });
+    guarded(ctx, where, [&] { fragments::FragmentServicesInstall(ctx); });
+    guarded(ctx, where, [&] { builders::RegisterBuilders(ctx); });
 }
 
 void AddInTerminate(Context& ctx) noexcept {

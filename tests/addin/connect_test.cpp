@@ -75,6 +75,15 @@ TEST_F(Connection, LoadsTheSettingsAndMakesTheCodeFolders) {
     EXPECT_FALSE(ctx().ShortcutsToolWindow->Visible());  // the default
 }
 
+TEST_F(Connection, InstallsTheServicesOfTheLaterLayers) {
+    connect->AddinInstance_OnConnection(vbe, addin::ext_cm_Startup, nullptr);
+    EXPECT_TRUE(ctx().Fragments.FragmentToProcedureAdd);
+    EXPECT_TRUE(ctx().Fragments.NormalizeErrorHandlerCode);
+    EXPECT_TRUE(ctx().Fragments.ExpandHeader);
+    EXPECT_TRUE(ctx().ErrorHandlersList);
+    EXPECT_FALSE(ctx().routines.empty());
+}
+
 TEST_F(Connection, AddInsUpdateLeavesTheWindowsOfAStartupConnection) {
     connect->AddinInstance_OnConnection(vbe, addin::ext_cm_Startup, nullptr);
     ctx().IniSettings->IniItemValue[settings::iiViewQuilletWindow] = true;
