@@ -101,8 +101,7 @@ void frmProcedure::Init(bool mfIsMethod) {
     auto& module = Controls(u"cboModule");
     guard(u"Init", [&] {
         if (mfIsMethod_) {
-            Caption = u"Method Builder";
-            // The class side (SelectedMethod, the class's name) comes with the Class Builder.
+            methodInit();
             return;
         }
         moduleQuiet_ = true;
@@ -118,8 +117,13 @@ void frmProcedure::Init(bool mfIsMethod) {
     guard(u"Init", [this] { SetControlsState(); });
     Controls(u"chkAddHourglass").Enabled =
         !ctx_.HostName.empty() && basic::InStr(u"VBRUN,Access,Excel,Word", ctx_.HostName, basic::Compare::Text) > 0;
-    Accessibility(0);
-    procedure_->AccessibleType.clear();
+    auto* owner = mfIsMethod_ ? classOwner() : nullptr;
+    if (owner && owner->SelectedMethod()) {
+        guard(u"Init", [&] { methodShow(*owner->SelectedMethod()); });
+    } else {
+        Accessibility(0);
+        procedure_->AccessibleType.clear();
+    }
     guard(u"Init", [this] { AccessibilitySet(); });
     guard(u"Init", [this] {
         Str word = source::CurrentWordGet(*ctx_.VBInstance);

@@ -11,6 +11,24 @@
 
 namespace quillet::builders {
 
+// The Class Builder as the Method Builder's parent: the class under construction, its methods,
+// and the method selected for editing.
+class MethodOwner {
+public:
+    virtual ~MethodOwner() = default;
+    virtual Str ClassName() = 0;
+    // The method under edit, or none for a new one.
+    virtual generators::clsProcedure* SelectedMethod() = 0;
+    virtual generators::colProcedures& Methods() = 0;
+    // The class declares and uses its module name constant.
+    virtual void ModuleNameConstant(bool value) = 0;
+    // Refills the list of methods; with selectLast its last entry is selected.
+    virtual void MethodsList(bool selectLast) = 0;
+};
+
+// Copies every field of a procedure, its arguments included, over another's (ID stays).
+void ProcedureCopy(generators::clsProcedure& from, generators::clsProcedure& to);
+
 class frmProcedure : public dialogs::Form, public ProcedureOwner {
 public:
     explicit frmProcedure(addin::Context& ctx);
@@ -53,6 +71,10 @@ private:
     void cmdDelArg_Click();
     void moveArgument(long step);
     void fillModel();
+    MethodOwner* classOwner();
+    void methodInit();
+    void methodShow(generators::clsProcedure& method);
+    bool methodBuild();
     bool moduleResolved();
     void guard(const Str& method, const std::function<void()>& statement);
     // A check box that remembers its value while it is disabled.

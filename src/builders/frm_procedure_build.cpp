@@ -149,11 +149,7 @@ bool frmProcedure::ProcBuild() {
         p.ErrorHandlerFile = Controls(u"cboAddErrorHandler").Text();
         p.ErrorHandler = source::ErrorHandlerFileRead(*ctx_.IniSettings, p.ErrorHandlerFile);
     }
-    if (mfIsMethod_) {
-        // The class side: the Class Builder takes the method back by name when it is the parent.
-        if (ParentForm && ParentForm->HasMember(u"MethodsList")) ParentForm->CallByName(u"MethodsList");
-        return true;
-    }
+    if (mfIsMethod_) return methodBuild();
     if (!moduleResolved()) return false;
     strProcedureText_ = p.GenerateCode();
     return !strProcedureText_.empty();
