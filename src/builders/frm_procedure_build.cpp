@@ -160,6 +160,12 @@ bool frmProcedure::moduleResolved() {
     auto& p = *procedure_;
     auto env = addin::codeEnvOf(ctx_);
     Str m = basic::Trim(Controls(u"cboModule").Text());
+    if (m.empty()) {
+        // No module named: the procedure goes to the module the user works in.
+        auto active = ctx_.VBInstance->SelectedVBComponent();
+        if (!active) return false;
+        p.ModuleName = m = active->Name();
+    }
     bool standard = is(m, source::kNewModule);
     if (standard || is(m, source::kNewClassModule)) {
         auto answer = InputBox(standard ? u"Name of Module" : u"Name of Class Module", source::kProductTitle);

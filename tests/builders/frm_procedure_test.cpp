@@ -117,6 +117,16 @@ TEST_F(ProcedureBuilder, ANewModuleIsNamedInAnInputBox) {
     EXPECT_EQ(moduleText(u"clsRunner"), u"Function Run()\r\n\r\nEnd Function");
 }
 
+TEST_F(ProcedureBuilder, AnEmptyModuleMeansTheActiveOne) {
+    auto& form = open();
+    form.Controls(u"txtName").Text(u"Here");
+    form.Controls(u"cboModule").Text(u"");
+    EXPECT_TRUE(form.PressOk());
+    EXPECT_EQ(platform->shownBoxes().size(), 0u);
+    EXPECT_EQ(form.Procedure().ModuleName, u"basMain");
+    EXPECT_NE(basic::InStr(moduleText(), u"Function Here()"), 0);
+}
+
 TEST_F(ProcedureBuilder, OkPutsTheNameOnTheClipboard) {
     auto& form = open();
     form.Controls(u"txtName").Text(u"  Compute ");
