@@ -92,6 +92,10 @@ TEST_F(ArgumentBuilder, DefaultValuesFitTheType) {
     types.ListIndex(source::FindInList(types, u"Variant"));
     EXPECT_GE(source::FindInList(values, u"mclngMax"), 0);
     EXPECT_GE(source::FindInList(values, u"mcstrTitle"), 0);
+    types.ListIndex(source::FindInList(types, u"Colour"));
+    EXPECT_EQ(values.ListCount(), 3);
+    EXPECT_EQ(values.List(1), u"Red");
+    EXPECT_EQ(values.List(2), u"Green");
 }
 
 TEST_F(ArgumentBuilder, NewConstantWithoutAConstantBuilderLeavesNoValue) {
