@@ -4,6 +4,7 @@
 #include "builders/frm_procedure.h"
 
 #include "builder_fixture.h"
+#include "addin/command_handlers.h"
 #include "fragments/services.h"
 #include "settings/code_folders.h"
 #include "source/code_placing.h"
@@ -20,6 +21,14 @@ protected:
     }
     const platform::ShownBox& lastBox() { return platform->shownBoxes().back(); }
 };
+
+TEST_F(ProcedureBuilder, OpensFromTheCommandBarsRoutine) {
+    EXPECT_TRUE(ctx->Forms->IsRegistered(u"frmProcedure"));
+    addin::RoutineRun(*ctx, u"frmProcedure");
+    ASSERT_NE(ctx->Forms->Top(), nullptr);
+    EXPECT_EQ(ctx->Forms->Top()->Name(), u"frmProcedure");
+    EXPECT_TRUE(ctx->Forms->Top()->IsModal());
+}
 
 TEST_F(ProcedureBuilder, ANewProcedureStartsAsAFunctionWithTheListsFilled) {
     auto& form = open();
