@@ -34,9 +34,14 @@ HRESULT ConnectObject::OnConnection(IDispatch* application, long connectMode, ID
         if (!connect_) {
             connect_ = std::make_unique<addin::Connect>(std::make_shared<platform::win::WinPlatform>(module().handle()),
                                                         module().hostApplications());
-            // The settings files go through the Windows profile functions themselves.
+            // Reports also go to the debugger's output, where a tool such as DebugView shows them.
             connect_->prepareContext([](addin::Context& ctx) {
+                // The settings files go through the Windows profile functions themselves.
                 ctx.IniSettings->setProfile(std::make_unique<platform::win::WinProfile>());
+                ctx.reportListener = [](const basic::Str& report) {
+                    std::wstring text(report.begin(), report.end());
+                    OutputDebugStringW((L"Quillet: " + text + L"\n").c_str());
+                };
             });
         }
         if (!timers_) timers_ = std::make_shared<TimerWindow>(module().handle(), [this] { return timerForm(); });

@@ -99,7 +99,9 @@ private:
         args[0].vt = VT_BOOL | VT_BYREF;
         args[0].pboolVal = &cancelValue;
         DISPPARAMS params{args, nullptr, 3, 0};
-        sink->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, nullptr, nullptr, nullptr);
+        ++ledger().clicks;
+        HRESULT hr = sink->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, nullptr, nullptr, nullptr);
+        if (hr != S_OK) ledger().clickResults.push_back(hr);
         if (args[2].pdispVal) args[2].pdispVal->Release();
         sink->Release();
         handled = handledValue != VARIANT_FALSE;

@@ -1,6 +1,7 @@
 // Code modules, panes and windows, as the harness hands them out.
 
 #include "fake_editor.h"
+#include "stand_ins.h"
 
 namespace quillet::wine {
 
@@ -88,8 +89,15 @@ IDispatch* fake(FakeLedger& l, const host::WindowPtr& o) {
     f->member(
         u"Visible", [o](const Args&) { return val(o->Visible()); },
         [o](const Args&, const VARIANT& v) { o->Visible(boolOf(v)); });
-    f->member(u"HWnd", [o](const Args&) { return val(static_cast<long>(o->hWnd())); });
-    f->member(u"SetFocus", [o](const Args&) { return o->SetFocus(), nothing(); });
+    f->member(u"HWnd", [&l, o](const Args&) {
+        HWND real = l.standIns ? l.standIns->of(*o) : nullptr;
+        return val(real ? static_cast<long>(reinterpret_cast<LONG_PTR>(real)) : static_cast<long>(o->hWnd()));
+    });
+    f->member(u"SetFocus", [&l, o](const Args&) {
+        o->SetFocus();
+        if (HWND real = l.standIns ? l.standIns->of(*o) : nullptr) ::SetFocus(real);
+        return nothing();
+    });
     f->member(u"Close", [o](const Args&) { return o->Close(), nothing(); });
     return f;
 }

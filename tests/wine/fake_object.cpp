@@ -150,6 +150,9 @@ HRESULT FakeObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* para
     try {
         return call(members_[id - 1], flags, params ? *params : none, result);
     } catch (const basic::VbError& e) {
+        ledger_.raised.push_back(std::string(typeName_.begin(), typeName_.end()) + "." +
+                                 std::string(members_[id - 1].name.begin(), members_[id - 1].name.end()) + ": " +
+                                 std::to_string(e.Number()));
         return raise(e, info);
     } catch (...) {
         return E_UNEXPECTED;

@@ -21,11 +21,17 @@ namespace quillet::wine {
 using basic::Str;
 using hosts::com::ComVariant;
 
+class StandIns;
+
 // What the harness counts across all its objects.
 struct FakeLedger {
+    StandIns* standIns = nullptr;  // real windows for the editor's windows, when the session has them
     long live = 0;      // fake objects not yet released
     long created = 0;
     std::vector<std::string> violations;  // calls the real editor would refuse
+    std::vector<std::string> raised;      // errors the editor raised to the add-in: "Type.Member: n"
+    long clicks = 0;                      // Click events raised on the add-in's sinks
+    std::vector<HRESULT> clickResults;    // what each sink's Invoke returned, when not S_OK
 };
 
 // The arguments of one call, first to last.

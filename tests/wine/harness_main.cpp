@@ -10,6 +10,7 @@
 #include <cstdio>
 
 #include "addin_loader.h"
+#include "box_answerer.h"
 #include "fake_editor.h"
 #include "harness.h"
 #include "hosts/memory/memory_host.h"
@@ -67,6 +68,7 @@ int wmain(int argc, wchar_t** argv) {
     Checks c;
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     {
+        BoxAnswerer boxes;
         AddinDll dll(argv[1]);
         c.check(dll.loaded(), "Quillet.dll loads", narrow(std::wstring(argv[1])));
         if (!dll.loaded()) return 1;
@@ -85,6 +87,7 @@ int wmain(int argc, wchar_t** argv) {
 
         runConnectionScenarios(c);
         runTimerScenarios(c);
+        runBarScenarios(c);
 
         CoFreeUnusedLibraries();
         c.check(dll.canUnloadNow() == S_OK, "DllCanUnloadNow once everything is released");
@@ -93,6 +96,8 @@ int wmain(int argc, wchar_t** argv) {
         auto diff = difference(before, registryPicture());
         c.check(diff.empty(), "the registry is as before registration", std::to_string(diff.size()) + " lines differ");
         for (size_t i = 0; i < diff.size() && i < 20; ++i) c.note(narrow(diff[i]));
+        c.note(std::to_string(boxes.answered().size()) + " message boxes answered");
+        for (size_t i = 0; i < boxes.answered().size() && i < 3; ++i) c.note(narrow(boxes.answered()[i]));
     }
     CoUninitialize();
     std::printf("%s: %d passed, %d failed\n", c.failed() ? "FAILED" : "PASSED", c.passed(), c.failed());

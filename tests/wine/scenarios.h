@@ -10,5 +10,7 @@ void runConnectionScenarios(Checks& c);
 // frmTimer's timers: the project watch enables and disables the bar; timers stop with the
 // connection.
 void runTimerScenarios(Checks& c);
+// The bar against the command table, clicks, the bar's state at the caret, its position.
+void runBarScenarios(Checks& c);
 
 }  // namespace quillet::wine

@@ -42,7 +42,8 @@ bool pump(DWORD ms, const std::function<bool()>& done) {
     }
 }
 
-Session::Session(Checks& c, std::shared_ptr<MemoryVBE> vbe) : c_(c), vbe_(std::move(vbe)) {
+Session::Session(Checks& c, std::shared_ptr<MemoryVBE> vbe) : c_(c), vbe_(std::move(vbe)), standIns_(vbe_) {
+    ledger_.standIns = &standIns_;
     addin_ = createConnect(c_, L"Quillet.Connect");
     application_ = fake(ledger_, host::VBEPtr(vbe_));
     addInInst_ = fakeAddIn(ledger_);
@@ -53,8 +54,15 @@ Session::~Session() {
     release();
 }
 
+void Session::focusActiveWindow() {
+    if (auto window = vbe_->activeWindow()) {
+        if (HWND real = standIns_.of(*window)) ::SetFocus(real);
+    }
+}
+
 HRESULT Session::connect(long mode) {
     if (!addin_) return E_POINTER;
+    focusActiveWindow();
     HRESULT hr = addin_->OnConnection(application_, mode, addInInst_, custom_.get());
     connected_ = true;
     return hr;

@@ -10,6 +10,7 @@
 #include "harness.h"
 #include "hosts/com/com_ptr.h"
 #include "hosts/memory/memory_host.h"
+#include "stand_ins.h"
 #include "win32/extensibility.h"
 
 namespace quillet::wine {
@@ -52,8 +53,11 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    // OnConnection; its HRESULT.
+    // OnConnection, with the keyboard focus in the active window as the user left it; its HRESULT.
     HRESULT connect(long mode = ext_cm_Startup);
+    // Puts the keyboard focus on the stand-in of the editor's active window (after a test changed
+    // the active window, as the user's click would).
+    void focusActiveWindow();
     // OnBeginShutdown then OnDisconnection; the worst HRESULT.
     HRESULT disconnect();
     // Releases the editor objects handed to OnConnection and the add-in itself.
@@ -61,12 +65,15 @@ public:
 
     bool created() const { return static_cast<bool>(addin_); }
     MemoryVBE& vbe() { return *vbe_; }
+    // What the add-in pasted into the Immediate window.
+    std::wstring immediateText() { return standIns_.immediateText(); }
     FakeLedger& ledger() { return ledger_; }
     win32::IDTExtensibility2* addin() { return addin_.get(); }
 
 private:
     Checks& c_;
     std::shared_ptr<MemoryVBE> vbe_;
+    StandIns standIns_;
     FakeLedger ledger_;
     ComPtr<win32::IDTExtensibility2> addin_;
     IDispatch* application_ = nullptr;

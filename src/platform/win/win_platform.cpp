@@ -23,7 +23,8 @@ std::wstring settingsKey(const Str& app, const Str& section) {
 
 std::optional<Str> readString(HKEY root, const std::wstring& key, const std::wstring& name) {
     DWORD size = 0;
-    DWORD flags = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_RT_REG_DWORD;
+    // REG_EXPAND_SZ comes expanded under RRF_RT_REG_SZ; asking for it by type would fail every read.
+    DWORD flags = RRF_RT_REG_SZ | RRF_RT_REG_DWORD;
     DWORD type = 0;
     if (RegGetValueW(root, key.c_str(), name.c_str(), flags, &type, nullptr, &size) != ERROR_SUCCESS) return std::nullopt;
     std::vector<BYTE> data(size + sizeof(wchar_t));

@@ -1,0 +1,225 @@
+// The command bar as the editor sees it: built from the command table, clicked through the
+// sinks the add-in advised, shown and hidden by the project watch, kept where the user left it.
+
+#include "bar_walk.h"
+#include "scenarios.h"
+#include "session.h"
+
+#include <set>
+
+namespace quillet::wine {
+
+namespace {
+
+constexpr DWORD kTickWait = 1500;  // a tick of Timer1 (500 ms), with room for a loaded machine
+constexpr wchar_t kSettingsKey[] = L"Software\\VB and VBA Program Settings\\Quillet\\Quillet";
+
+Str joinLines(const std::vector<Str>& lines) {
+    Str text;
+    for (size_t i = 0; i < lines.size(); ++i) text += (i ? u"\r\n" : u"") + lines[i];
+    return text;
+}
+
+Str moduleText(MemoryVBE& vbe, const Str& name) {
+    auto module = vbe.activeProject()->VBComponents()->Item(name)->CodeModule();
+    long count = module->CountOfLines();
+    return count ? module->Lines(1, count) : Str();
+}
+
+// Bytes of a text as printable UTF-8, CR and LF shown.
+std::string shown(const Str& text) {
+    std::string out;
+    for (char16_t ch : text) {
+        if (ch == u'\r') out += "\\r";
+        else if (ch == u'\n') out += "\\n";
+        else out += narrow(Str(1, ch));
+    }
+    return out;
+}
+
+const std::vector<Str> kProcModule = {u"Option Explicit", u"", u"Public Sub Main()", u"    Dim x As Long", u"    ",
+                                      u"End Sub"};
+
+std::shared_ptr<MemoryVBE> editorWithProcModule(long line, long col) {
+    auto vbe = MemoryVBE::create();
+    auto project = vbe->addProject(u"VBAProject", u"C:\\Work\\Book1.xlsm", u"Excel");
+    auto module = project->addComponent(u"basMain", host::vbext_ct_StdModule, kProcModule);
+    vbe->openPane(module)->SetSelection(line, col, line, col);
+    return vbe;
+}
+
+// Clicks a control as the editor does: through the sinks advised on it.
+bool click(Checks& c, MemoryVBE& vbe, const std::vector<Str>& path) {
+    std::string name;
+    for (const auto& step : path) name += (name.empty() ? "" : " > ") + narrow(step);
+    auto control = controlAt(vbe, path);
+    c.check(control != nullptr, "the bar has " + name);
+    if (!control) return false;
+    control->Execute();
+    return true;
+}
+
+void endSession(Checks& c, Session& s, const std::string& what) {
+    HRESULT hr = s.disconnect();
+    bool barGone = s.vbe().commandBars()->bar(u"Quillet") == nullptr;
+    s.release();
+    c.check(hr == S_OK && barGone && s.ledger().live == 0,
+            what + ": disconnection removes the bar and releases every object",
+            hex(hr) + (barGone ? "" : ", bar left") + ", " + std::to_string(s.ledger().live) + " held");
+    c.check(s.ledger().violations.empty(), what + ": every call kept the editor's calling rules",
+            s.ledger().violations.empty() ? "" : s.ledger().violations.front());
+}
+
+void barAgainstTable(Checks& c) {
+    Session s(c, editorWithProject());
+    if (!s.created()) return;
+    s.connect(ext_cm_Startup);
+    auto walked = walkBar(s.vbe());
+    auto expected = expectedBar();
+    c.check(walked.size() == expected.size(), "the bar holds one control per row of the command table",
+            std::to_string(walked.size()) + " controls, " + std::to_string(expected.size()) + " rows");
+    size_t wrong = 0;
+    for (size_t i = 0; i < std::min(walked.size(), expected.size()); ++i) {
+        const auto& e = expected[i];
+        auto& control = *walked[i].control;
+        long style = e.row->faceId == 0 ? host::msoButtonAutomatic
+                                        : (e.depth == 0 ? host::msoButtonIcon : host::msoButtonIconAndCaption);
+        bool ok = walked[i].depth == e.depth && control.Caption() == e.caption && control.Type() == e.row->type &&
+                  control.BeginGroup() == e.row->beginGroup && control.Tag() == e.tag &&
+                  (e.row->type != host::msoControlButton || control.Style() == style);
+        if (!ok && wrong++ < 5) {
+            c.note("control " + std::to_string(i + 1) + ": \"" + narrow(control.Caption()) + "\" tagged \"" +
+                   narrow(control.Tag()) + "\", the table wants \"" + narrow(e.caption) + "\" tagged \"" +
+                   narrow(e.tag) + "\"");
+        }
+    }
+    c.check(wrong == 0, "every control has the table's caption, kind, depth, order, group, style and tag",
+            std::to_string(wrong) + " differ");
+    std::set<Str> tags;
+    for (const auto& w : walked) tags.insert(w.control->Tag());
+    c.check(tags.size() == walked.size(), "every control's Tag is unique");
+    endSession(c, s, "the table's bar");
+}
+
+void clickIfThenElse(Checks& c) {
+    Session s(c, editorWithProcModule(5, 5));
+    if (!s.created()) return;
+    s.connect(ext_cm_Startup);
+    click(c, s.vbe(), {u"&Quillet"});  // the pop-up opening sets its entries
+    if (click(c, s.vbe(), {u"&Quillet", u"&If", u"Then &Else"})) {
+        Str want = joinLines({u"Option Explicit", u"", u"Public Sub Main()", u"    Dim x As Long", u"    If  Then",
+                              u"        ", u"    Else", u"        ", u"    End If", u"End Sub"});
+        Str got = moduleText(s.vbe(), u"basMain");
+        c.check(got == want, "\"&Quillet\" > \"&If\" > \"Then &Else\" on a blank line writes the If block",
+                shown(got));
+        if (got != want) {
+            c.note(std::to_string(s.ledger().clicks) + " clicks raised");
+            c.note("Immediate window: " + narrow(s.immediateText()));
+            for (const auto& e : s.ledger().raised) c.note("the editor raised " + e);
+        }
+        long sl = 0, sc = 0, el = 0, ec = 0;
+        s.vbe().activePane()->GetSelection(sl, sc, el, ec);
+        c.check(sl == 5 && sc == 8 && el == 5 && ec == 8, "the caret stands in the condition",
+                std::to_string(sl) + ":" + std::to_string(sc));
+    }
+    endSession(c, s, "the If click");
+}
+
+void clickDeadEntry(Checks& c) {
+    Session s(c, editorWithProcModule(5, 5));
+    if (!s.created()) return;
+    s.connect(ext_cm_Startup);
+    Str before = moduleText(s.vbe(), u"basMain");
+    if (click(c, s.vbe(), {u"&Quillet", u"&Variable", u"Add Item to User-Defined Data Ty&pe..."})) {
+        c.check(moduleText(s.vbe(), u"basMain") == before,
+                "\"Add Item to User-Defined Data Ty&pe...\" does nothing when clicked");
+    }
+    endSession(c, s, "the dead entry");
+}
+
+const std::vector<Str> kWholeBar = {u"&Add Variable...", u"&Add Constant...", u"&Add Property...",
+                                    u"Insert Varia&ble...", u"Add P&rocedure...", u"Add Cl&ass...",
+                                    u"Insert &Line Of Code...", u"Insert Fragme&nt...",
+                                    u"View &Shortcuts and Search\u2026", u"View Code &Explorer\u2026", u"&Quillet",
+                                    u"Hel&p"};
+const std::vector<Str> kOutsideProcedure = {u"&Add Variable...", u"&Add Constant...", u"&Add Property...",
+                                            u"Add P&rocedure...", u"Add Cl&ass...",
+                                            u"View &Shortcuts and Search\u2026", u"View Code &Explorer\u2026",
+                                            u"&Quillet", u"Hel&p"};
+const std::vector<Str> kNoCodeWindow = {u"Add Cl&ass...", u"View &Shortcuts and Search\u2026",
+                                        u"View Code &Explorer\u2026", u"&Quillet", u"Hel&p"};
+
+void toolbarState(Checks& c) {
+    Session s(c, editorWithProcModule(5, 5));
+    if (!s.created()) return;
+    s.connect(ext_cm_Startup);
+    auto shows = [&](const std::vector<Str>& want) { return pump(kTickWait, [&] { return visibleOnBar(s.vbe()) == want; }); };
+    c.check(shows(kWholeBar), "inside a procedure the whole bar shows");
+    s.vbe().activePane()->SetSelection(1, 1, 1, 1);
+    c.check(shows(kOutsideProcedure), "moving the caret out of the procedure hides the insert buttons");
+    s.vbe().activePane()->SetSelection(4, 5, 4, 5);
+    c.check(shows(kWholeBar), "moving it back in shows them again");
+    s.vbe().setActiveWindow(hosts::memory::ActiveWindowKind::Project);
+    s.focusActiveWindow();
+    c.check(shows(kNoCodeWindow), "with no code window active only Add Class, the pop-ups and the view buttons stay");
+    s.vbe().openPane(u"basMain");
+    s.focusActiveWindow();
+    c.check(shows(kWholeBar), "back in the code window everything comes back");
+    endSession(c, s, "the bar's state");
+}
+
+std::wstring savedSetting(const wchar_t* name) {
+    wchar_t buffer[64];
+    DWORD size = sizeof buffer;
+    if (RegGetValueW(HKEY_CURRENT_USER, kSettingsKey, name, RRF_RT_REG_SZ, nullptr, buffer, &size) != ERROR_SUCCESS) {
+        return L"(none)";
+    }
+    return buffer;
+}
+
+void barPosition(Checks& c) {
+    RegDeleteTreeW(HKEY_CURRENT_USER, kSettingsKey);
+    {
+        Session s(c, editorWithProject());
+        if (!s.created()) return;
+        s.connect(ext_cm_Startup);
+        auto bar = s.vbe().commandBars()->bar(u"Quillet");
+        c.check(bar && bar->Position() == host::msoBarTop && bar->RowIndex() == 0 && bar->Visible(),
+                "on a first run with no registry values the bar stands on top, in row 0, visible");
+        if (bar) {
+            bar->Position(host::msoBarFloating);
+            bar->Left(310);
+            bar->Top(125);
+        }
+        endSession(c, s, "the moved bar");
+    }
+    c.check(savedSetting(L"ToolbarPos") == L"4" && savedSetting(L"ToolbarLeft") == L"310" &&
+                savedSetting(L"ToolbarTop") == L"125",
+            "disconnection keeps the floating bar's position in the registry",
+            narrow(savedSetting(L"ToolbarPos") + L" " + savedSetting(L"ToolbarLeft") + L" " + savedSetting(L"ToolbarTop")));
+    {
+        Session s(c, editorWithProject());
+        if (!s.created()) return;
+        s.connect(ext_cm_Startup);
+        auto bar = s.vbe().commandBars()->bar(u"Quillet");
+        c.check(bar && bar->Position() == host::msoBarFloating && bar->Left() == 310 && bar->Top() == 125,
+                "the next connection puts the floating bar back where it was",
+                bar ? std::to_string(bar->Position()) + " " + std::to_string(bar->Left()) + " " +
+                          std::to_string(bar->Top())
+                    : "no bar");
+        endSession(c, s, "the restored bar");
+    }
+    RegDeleteTreeW(HKEY_CURRENT_USER, kSettingsKey);
+}
+
+}  // namespace
+
+void runBarScenarios(Checks& c) {
+    barAgainstTable(c);
+    clickIfThenElse(c);
+    clickDeadEntry(c);
+    toolbarState(c);
+    barPosition(c);
+}
+
+}  // namespace quillet::wine
