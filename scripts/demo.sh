@@ -9,25 +9,30 @@ cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build -j"$(nproc)" --target quillet
 quillet=build/quillet
 project=examples/Invoicing
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+settings=(--settings "$scratch/settings")   # the demo keeps its settings apart from yours
 
 echo
 echo "\$ quillet list --project $project"
-$quillet list --project "$project"
+$quillet list --project "$project" "${settings[@]}"
 
 echo
 echo "\$ quillet run \"If Then Else\" --project $project --at basMain:12:5 --dry-run"
-$quillet run "If Then Else" --project "$project" --at basMain:12:5 --dry-run
+$quillet run "If Then Else" --project "$project" --at basMain:12:5 --dry-run "${settings[@]}"
 
 echo
 echo "\$ quillet run \"If Then ElseIf Else\" --answer 2 --project $project --at basMain:12:5 --dry-run"
-$quillet run "If Then ElseIf Else" --answer 2 --project "$project" --at basMain:12:5 --dry-run
+$quillet run "If Then ElseIf Else" --answer 2 --project "$project" --at basMain:12:5 --dry-run "${settings[@]}"
 
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
+echo
+echo "\$ quillet run ErrorHandling --project $project --at basMain:12:5 --dry-run"
+$quillet run ErrorHandling --project "$project" --at basMain:12:5 --dry-run "${settings[@]}"
+
 cp -r "$project" "$scratch/"
 echo
 echo "\$ quillet run ForEachNext --project <copy of $project> --at basMain:12:5"
-$quillet run ForEachNext --project "$scratch/Invoicing" --at basMain:12:5
+$quillet run ForEachNext --project "$scratch/Invoicing" --at basMain:12:5 "${settings[@]}"
 echo "unchanged files stay byte-identical:"
 for f in "$project"/*; do
     name=$(basename "$f")

@@ -3,6 +3,7 @@
 #include "addin/lifecycle.h"
 #include "basic/unicode.h"
 #include "cli/caret_setup.h"
+#include "settings/file_system.h"
 #include "cli/diff.h"
 
 namespace quillet::cli {
@@ -40,7 +41,12 @@ ProjectSession openSession(const ToolOptions& options) {
     ProjectSession session;
     session.vbe = memory::MemoryVBE::create();
     session.project = loadProjectFiles(options, session.vbe);
+    files::installFileImportExport(*session.vbe, options.codePage.value_or(files::CodePage::Windows1252));
     session.platform = std::make_shared<platform::ScriptedPlatform>();
+    // Files the commands make on the way (the error-handling module's import) go to the
+    // machine's own temporary folder.
+    Str temp = settings::FileSystem().systemPath(std::filesystem::temp_directory_path());
+    session.platform->setTempFolder(temp.empty() || temp.back() == u'\\' ? temp : temp + u"\\");
     placeCaret(*session.vbe, *session.project->project(), options);
     wirePlatform(*session.platform, session.vbe);
     for (const Str& answer : options.answers) session.platform->queueAnswer(answer);

@@ -77,6 +77,19 @@ TEST_F(CliTool, DryRunPrintsADiffAndWritesNothing) {
     EXPECT_EQ(touched(), "");
 }
 
+TEST_F(CliTool, ErrorHandlingWrapsTheProcedureAndBringsTheErrorModule) {
+    ASSERT_EQ(run({"run", "ErrorHandling", "--project", project, "--at", "basMain:12:5"}), kExitOk) << err.str();
+    EXPECT_EQ(err.str(), "");
+    EXPECT_EQ(touched(), "basMain.bas ");
+    ASSERT_TRUE(dir.exists("basErrorHandle.bas"));
+    std::string code = dir.read("basMain.bas");
+    EXPECT_NE(code.find("    On Error GoTo HandleError\r\n"), std::string::npos);
+    EXPECT_NE(code.find("HandleError:\r\n    ErrorHandle Err.Number, Err.Description, cstrModule & \".\" & cstrProcedure\r\n"
+                        "    Resume HandleExit\r\nEnd Sub\r\n"),
+              std::string::npos);
+    EXPECT_EQ(dir.read("basErrorHandle.bas").rfind("Attribute VB_Name = \"basErrorHandle\"\r\n", 0), 0u);
+}
+
 TEST_F(CliTool, AnswersGoToTheInputBoxes) {
     ASSERT_EQ(run({"run", "If Then ElseIf Else", "--project", project, "--at", "basMain:12:5", "--answer", "2",
                    "--dry-run"}),

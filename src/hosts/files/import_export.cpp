@@ -3,6 +3,7 @@
 #include "hosts/files/file_project.h"
 #include "hosts/files/project_error.h"
 #include "hosts/memory/project.h"
+#include "settings/file_system.h"
 
 namespace quillet::hosts::files {
 
@@ -12,6 +13,13 @@ basic::VbError fileError(const ProjectError& error, long number) {
     return basic::VbError(number, basic::fromUtf8(error.what()), u"quillet");
 }
 
+// The add-in names files in the system's form ("C:\\...", "Z:\\tmp\\x.bas"); the file layer
+// maps them to the machine.
+std::filesystem::path machineFileOf(const Str& path) {
+    if (auto machine = settings::FileSystem().machinePath(path)) return *machine;
+    return pathOf(path);
+}
+
 }  // namespace
 
 // Import follows the editor: the name comes from VB_Name, a taken name gets "1" appended until
@@ -19,7 +27,7 @@ basic::VbError fileError(const ProjectError& error, long number) {
 // Export writes the module file with CRLF after every line.
 void installFileImportExport(memory::MemoryVBE& vbe, CodePage codePage) {
     vbe.setImporter([codePage](memory::MemoryProject& project, const Str& path) {
-        std::filesystem::path file = pathOf(path);
+        std::filesystem::path file = machineFileOf(path);
         ModuleFile module;
         try {
             module = parseModuleFile(readTextLines(readFileBytes(file), codePage, displayPath(file)), displayPath(file));
@@ -44,7 +52,7 @@ void installFileImportExport(memory::MemoryVBE& vbe, CodePage codePage) {
         TextLayout layout;
         layout.codePage = codePage;
         try {
-            writeFileAtomically(pathOf(path), writeTextLines(moduleFileLines(metadata, component.lines()), layout));
+            writeFileAtomically(machineFileOf(path), writeTextLines(moduleFileLines(metadata, component.lines()), layout));
         } catch (const ProjectError& error) {
             throw fileError(error, basic::err::PathFileAccess);
         }
