@@ -2,6 +2,7 @@
 
 #include "addin/err_handler.h"
 #include "addin/scan_commands.h"
+#include "builders/name_answer.h"
 #include "source/literals.h"
 #include "source/name_checks.h"
 #include "source/prefixes.h"
@@ -252,14 +253,7 @@ bool frmArgument::PressOK() {
     long n = arguments.Count();
     source::NameCheckEnv env{*ctx_.VBInstance, ctx_.Platform(), ctx_.Keywords};
     long answer = source::CheckNewNameIsOK(env, name, false, false, {source::lookupIn(arguments.Items)});
-    if (answer == 2) {
-        Unload();
-        return false;
-    }
-    if (answer != 0) {
-        FocusedControl = u"txtName";
-        return false;
-    }
+    if (!nameAnswerAccepted(*this, FocusedControl, answer)) return false;
     InitVariables();
     bool optional = Controls(u"chkOptional").Value() == dialogs::vbChecked;
     Str value = basic::Trim(Controls(u"cboDefaultValue").Text());

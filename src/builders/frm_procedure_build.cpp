@@ -6,6 +6,7 @@
 #include "addin/err_handler.h"
 #include "addin/scan_commands.h"
 #include "builders/frm_procedure.h"
+#include "builders/name_answer.h"
 #include "source/code_placing.h"
 #include "source/error_handler_files.h"
 #include "source/name_checks.h"
@@ -131,14 +132,7 @@ bool frmProcedure::ProcBuild() {
     source::NameLookups lookups{source::lookupIn(moduleProcs)};
     if (ctx_.Scan.ProjectProcs) lookups.push_back(source::lookupIn(*ctx_.Scan.ProjectProcs));
     long answer = source::CheckNewNameIsOK(checkEnv, name, false, false, lookups);
-    if (answer == 2) {
-        Unload();
-        return false;
-    }
-    if (answer != 0) {
-        FocusedControl = u"txtName";
-        return false;
-    }
+    if (!nameAnswerAccepted(*this, FocusedControl, answer)) return false;
     if (long order = p.ArgumentsOrderIsBad(); order != 0) {
         Str second = order == 1 ? u"After the optional argument all subsequent arguments must also be optional."
                                 : u"ParamArray argument is used only as the last argument.";

@@ -123,6 +123,19 @@ Str selectedText(host::CodeModule& module, long startLine, long startCol, long e
     return left + right;
 }
 
+// The pane's selection, with the text left of its start and right of its end.
+struct SelectionParts {
+    long startLine = 0, startCol = 0, endLine = 0, endCol = 0;
+    Str left, right;
+};
+
+SelectionParts selectionParts(host::CodePane& pane, host::CodeModule& module) {
+    SelectionParts s;
+    pane.GetSelection(s.startLine, s.startCol, s.endLine, s.endCol);
+    selectedText(module, s.startLine, s.startCol, s.endLine, s.endCol, s.left, s.right);
+    return s;
+}
+
 // Writes `text` over lines first..last (which may lie past the module's end).
 void replaceLines(host::CodeModule& module, long first, long last, const Str& text) {
     ensureLine(module, first);
@@ -258,18 +271,15 @@ void InstanceAdd(CodeEnv& env, host::CodePanePtr pane, const Str& text, bool bln
         if (!pane) pane = env.vbe.ActiveCodePane();
         if (!pane) return;
         auto module = pane->CodeModule();
-        long startLine = 0, startCol = 0, endLine = 0, endCol = 0;
-        pane->GetSelection(startLine, startCol, endLine, endCol);
-        Str left, right;
-        selectedText(*module, startLine, startCol, endLine, endCol, left, right);
+        auto s = selectionParts(*pane, *module);
         Str insert = text;
-        if (startLine == endLine && startCol == endCol) {
-            if (!left.empty() && !endsWithAny(left, u"( ") && !beginsWithAny(insert, u"( ")) insert = u" " + insert;
-            if (!right.empty() && !beginsWithAny(right, u") ") && !endsWithAny(insert, u") ")) insert += u" ";
+        if (s.startLine == s.endLine && s.startCol == s.endCol) {
+            if (!s.left.empty() && !endsWithAny(s.left, u"( ") && !beginsWithAny(insert, u"( ")) insert = u" " + insert;
+            if (!s.right.empty() && !beginsWithAny(s.right, u") ") && !endsWithAny(insert, u") ")) insert += u" ";
         }
-        replaceLines(*module, startLine, endLine, left + insert + right);
+        replaceLines(*module, s.startLine, s.endLine, s.left + insert + s.right);
         long caretLine = 0, caretCol = 0;
-        caretBehind(left + insert, startLine, 1, caretLine, caretCol);
+        caretBehind(s.left + insert, s.startLine, 1, caretLine, caretCol);
         if (blnNewFocus) pane->Show();
         pane->SetSelection(caretLine, caretCol, caretLine, caretCol);
         if (blnKeys) env.platform.SendKeys(u" {BACKSPACE}", true);
@@ -281,13 +291,10 @@ void CodeReplace(CodeEnv& env, const Str& text) {
         auto pane = env.vbe.ActiveCodePane();
         if (!pane) return;
         auto module = pane->CodeModule();
-        long startLine = 0, startCol = 0, endLine = 0, endCol = 0;
-        pane->GetSelection(startLine, startCol, endLine, endCol);
-        Str left, right;
-        selectedText(*module, startLine, startCol, endLine, endCol, left, right);
-        replaceLines(*module, startLine, endLine, left + text + right);
+        auto s = selectionParts(*pane, *module);
+        replaceLines(*module, s.startLine, s.endLine, s.left + text + s.right);
         long caretLine = 0, caretCol = 0;
-        caretBehind(left + text, startLine, 1, caretLine, caretCol);
+        caretBehind(s.left + text, s.startLine, 1, caretLine, caretCol);
         pane->SetSelection(caretLine, caretCol, caretLine, caretCol);
     });
 }
