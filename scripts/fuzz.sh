@@ -12,12 +12,13 @@ jobs=${FUZZ_JOBS:-2}
 build=build-fuzz
 targets=(source_fuzz_parsers source_fuzz_scans)
 
-if ! command -v clang++ >/dev/null 2>&1; then
-    echo "== installing clang =="
+# libFuzzer's runtime comes with compiler-rt, which apt only recommends with clang.
+if ! command -v clang++ >/dev/null 2>&1 || ! dpkg -s libclang-rt-14-dev >/dev/null 2>&1; then
+    echo "== installing clang and its runtime libraries =="
     sudo=""
     [ "$(id -u)" -ne 0 ] && sudo="sudo"
     $sudo apt-get update -qq
-    $sudo apt-get install -y -qq clang >/dev/null
+    $sudo apt-get install -y -qq clang libclang-rt-14-dev >/dev/null
 fi
 
 echo "== building the core for fuzzing =="
