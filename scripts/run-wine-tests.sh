@@ -54,8 +54,14 @@ runArch() {
     start=$(date +%s)
     log=$ROOT/build-wine/harness$arch.log
     # The prefix is made inside the virtual X server: a Wine desktop started without a display
-    # stays without one, and no window could be made in it.
-    xvfb-run -a sh -c 'wineboot -i >/dev/null 2>&1; wine "$1" "$(winepath -w "$2")"' harness \
+    # stays without one, and no window could be made in it. Windows live in a Wine virtual
+    # desktop: without a window manager each top-level window and clipboard change would
+    # otherwise wait seconds for X events that never come.
+    xvfb-run -a sh -c 'wineboot -i >/dev/null 2>&1
+        wine reg add "HKCU\Software\Wine\Explorer" /v Desktop /d Default /f >/dev/null 2>&1
+        wine reg add "HKCU\Software\Wine\Explorer\Desktops" /v Default /d 1024x768 /f >/dev/null 2>&1
+        wineserver -w
+        wine "$1" "$(winepath -w "$2")"' harness \
         "$dir/tests/wine/quillet_wine_harness.exe" "$dir/Quillet.dll" >"$log" 2>&1
     status=$?
     wineserver -w 2>/dev/null

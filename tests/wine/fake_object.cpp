@@ -146,6 +146,10 @@ HRESULT FakeObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DIS
 HRESULT FakeObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result, EXCEPINFO* info,
                            UINT*) {
     if (id < 1 || static_cast<size_t>(id) > members_.size()) return DISP_E_MEMBERNOTFOUND;
+    if (++ledger_.calls == ledger_.failAt) {
+        ++ledger_.injected;
+        return raise(basic::VbError(440, u"Automation error (injected)"), info);
+    }
     DISPPARAMS none{};
     try {
         return call(members_[id - 1], flags, params ? *params : none, result);

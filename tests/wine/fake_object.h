@@ -30,6 +30,9 @@ struct FakeLedger {
     long created = 0;
     std::vector<std::string> violations;  // calls the real editor would refuse
     std::vector<std::string> raised;      // errors the editor raised to the add-in: "Type.Member: n"
+    long calls = 0;                       // member calls (Invoke) the add-in made
+    long failAt = 0;                      // the call (counting calls) made to fail; 0 none
+    long injected = 0;                    // failures injected so far
     long clicks = 0;                      // Click events raised on the add-in's sinks
     std::vector<HRESULT> clickResults;    // what each sink's Invoke returned, when not S_OK
 };

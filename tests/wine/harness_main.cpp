@@ -85,9 +85,15 @@ int wmain(int argc, wchar_t** argv) {
         c.check(hr == S_OK, "DllRegisterServer succeeds", hex(hr));
         checkRegistration(c);
 
-        runConnectionScenarios(c);
-        runTimerScenarios(c);
-        runBarScenarios(c);
+        auto timed = [&c](const char* what, void (*run)(Checks&)) {
+            ULONGLONG start = GetTickCount64();
+            run(c);
+            c.note(std::string(what) + " scenarios took " + std::to_string((GetTickCount64() - start) / 1000.0) + " s");
+        };
+        timed("connection", runConnectionScenarios);
+        timed("timer", runTimerScenarios);
+        timed("bar", runBarScenarios);
+        timed("fault", runFaultScenarios);
 
         CoFreeUnusedLibraries();
         c.check(dll.canUnloadNow() == S_OK, "DllCanUnloadNow once everything is released");

@@ -12,5 +12,7 @@ void runConnectionScenarios(Checks& c);
 void runTimerScenarios(Checks& c);
 // The bar against the command table, clicks, the bar's state at the caret, its position.
 void runBarScenarios(Checks& c);
+// Failures injected into each editor call of connection, a click and a tick.
+void runFaultScenarios(Checks& c);
 
 }  // namespace quillet::wine

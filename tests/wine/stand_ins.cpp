@@ -5,18 +5,21 @@ namespace quillet::wine {
 namespace {
 
 constexpr wchar_t kOwnerProp[] = L"QuilletStandIns";
+constexpr wchar_t kFrameTitle[] = L"Quillet harness: the editor";
 
 }  // namespace
 
 StandIns::~StandIns() {
     for (auto& [handle, window] : windows_) DestroyWindow(window);
-    if (frame_) DestroyWindow(frame_);
 }
 
 HWND StandIns::frame() {
     if (frame_) return frame_;
-    frame_ = CreateWindowExW(0, L"STATIC", L"Editor", WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 640,
-                             480, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+    // One frame serves every session of the run: it is made, and activated, once.
+    frame_ = FindWindowW(L"Static", kFrameTitle);
+    if (frame_) return frame_;
+    frame_ = CreateWindowExW(0, L"Static", kFrameTitle, WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0,
+                             640, 480, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     if (!frame_) return nullptr;
     // The window manager's activation arrives as messages: wait for it, briefly.
     SetForegroundWindow(frame_);

@@ -4,7 +4,8 @@
 // window with Ctrl+V: each editor window gets an edit control of its own, so those calls act on
 // real windows here as they do in the editor. Focus given to a stand-in activates its editor
 // window, as clicking into it would. The stand-ins are child windows of one visible top-level
-// window, brought to the foreground once, so that focus moves between them at once.
+// window, brought to the foreground once and kept for the whole run, so that focus moves between
+// them at once.
 
 #include <windows.h>
 
