@@ -5,7 +5,7 @@
 option(QUILLET_WINE_HARNESS "Build the Wine test harness" ON)
 
 set(QUILLET_WIN_DEFINITIONS UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
-set(QUILLET_WIN_LIBRARIES ole32 oleaut32 uuid user32 advapi32 shell32 comdlg32)
+set(QUILLET_WIN_LIBRARIES ole32 oleaut32 uuid user32 gdi32 advapi32 shell32 comdlg32)
 
 file(GLOB QUILLET_WIN_SOURCES CONFIGURE_DEPENDS
   ${CMAKE_SOURCE_DIR}/src/hosts/com/*.cpp
@@ -15,7 +15,11 @@ target_link_libraries(quillet_win PUBLIC quillet_core ${QUILLET_WIN_LIBRARIES})
 target_compile_definitions(quillet_win PUBLIC ${QUILLET_WIN_DEFINITIONS})
 
 file(GLOB QUILLET_DLL_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/win32/*.cpp)
-add_library(Quillet SHARED ${QUILLET_DLL_SOURCES} ${CMAKE_SOURCE_DIR}/src/win32/quillet.def)
+# The command bar faces (bitmaps made by scripts/make-faces.py) are resources of the DLL.
+enable_language(RC)
+add_library(Quillet SHARED ${QUILLET_DLL_SOURCES} ${CMAKE_SOURCE_DIR}/src/win32/quillet.def
+  ${CMAKE_SOURCE_DIR}/src/win32/faces.rc)
+target_include_directories(Quillet PRIVATE ${CMAKE_SOURCE_DIR}/src/win32)
 set_target_properties(Quillet PROPERTIES PREFIX "" OUTPUT_NAME Quillet)
 target_link_libraries(Quillet PRIVATE quillet_win)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)

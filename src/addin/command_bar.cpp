@@ -98,11 +98,12 @@ host::CommandBarPtr ToolBarCreate(Context& ctx, const host::CommandBarsPtr& bars
 
 void ToolBarSave(Context& ctx, const host::CommandBarsPtr& bars, const Str& suffix) {
     auto bar = bars->Item(kBarName);
-    saveNumber(ctx, u"ToolbarPos" + suffix, bar->Position());
-    saveNumber(ctx, u"ToolbarIndex" + suffix, bar->RowIndex());
-    saveNumber(ctx, u"ToolbarLeft" + suffix, bar->Left());
-    saveNumber(ctx, u"ToolbarTop" + suffix, bar->Top());
-    bar->Visible(false);
+    // A value the editor does not give is not kept; the bar goes all the same.
+    ignoringErrors([&] { saveNumber(ctx, u"ToolbarPos" + suffix, bar->Position()); });
+    ignoringErrors([&] { saveNumber(ctx, u"ToolbarIndex" + suffix, bar->RowIndex()); });
+    ignoringErrors([&] { saveNumber(ctx, u"ToolbarLeft" + suffix, bar->Left()); });
+    ignoringErrors([&] { saveNumber(ctx, u"ToolbarTop" + suffix, bar->Top()); });
+    ignoringErrors([&] { bar->Visible(false); });
     bar->Delete();
     ignoringErrors([&] { bars->Item(u"CodeExplorerPopUp")->Delete(); });
 }

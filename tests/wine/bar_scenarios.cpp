@@ -5,6 +5,8 @@
 #include "scenarios.h"
 #include "session.h"
 
+#include <olectl.h>
+
 #include <set>
 
 namespace quillet::wine {
@@ -70,6 +72,39 @@ void endSession(Checks& c, Session& s, const std::string& what) {
             s.ledger().violations.empty() ? "" : s.ledger().violations.front());
 }
 
+// The size of a picture object's bitmap; 0 by 0 when it is none.
+SIZE bitmapSize(IDispatch* picture) {
+    SIZE size{0, 0};
+    ComPtr<IPicture> p;
+    if (!picture || FAILED(picture->QueryInterface(IID_IPicture, reinterpret_cast<void**>(p.put())))) return size;
+    SHORT type = 0;
+    OLE_HANDLE handle = 0;
+    if (FAILED(p->get_Type(&type)) || type != PICTYPE_BITMAP || FAILED(p->get_Handle(&handle))) return size;
+    BITMAP bm{};
+    if (GetObjectW(reinterpret_cast<HBITMAP>(static_cast<UINT_PTR>(handle)), sizeof bm, &bm)) size = {bm.bmWidth, bm.bmHeight};
+    return size;
+}
+
+void checkFaces(Checks& c, Session& s, const std::vector<WalkedControl>& walked,
+                const std::vector<ExpectedControl>& expected) {
+    size_t faced = 0, wrong = 0;
+    for (size_t i = 0; i < std::min(walked.size(), expected.size()); ++i) {
+        if (expected[i].row->faceId == 0) continue;
+        ++faced;
+        const void* key = walked[i].control.get();
+        SIZE face = bitmapSize(s.ledger().pictures[key].get());
+        SIZE mask = bitmapSize(s.ledger().masks[key].get());
+        if (face.cx != 16 || face.cy != 16 || mask.cx != 16 || mask.cy != 16) {
+            if (wrong++ < 3) c.note("face of \"" + narrow(expected[i].caption) + "\": " + std::to_string(face.cx) + "x" +
+                                    std::to_string(face.cy) + ", mask " + std::to_string(mask.cx) + "x" +
+                                    std::to_string(mask.cy));
+        }
+    }
+    c.check(faced > 0 && wrong == 0,
+            "each of the " + std::to_string(faced) + " controls with a face got a 16x16 bitmap picture and mask",
+            std::to_string(wrong) + " without");
+}
+
 void barAgainstTable(Checks& c) {
     Session s(c, editorWithProject());
     if (!s.created()) return;
@@ -98,6 +133,7 @@ void barAgainstTable(Checks& c) {
     std::set<Str> tags;
     for (const auto& w : walked) tags.insert(w.control->Tag());
     c.check(tags.size() == walked.size(), "every control's Tag is unique");
+    checkFaces(c, s, walked, expected);
     endSession(c, s, "the table's bar");
 }
 

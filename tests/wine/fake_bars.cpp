@@ -211,6 +211,16 @@ IDispatch* fake(FakeLedger& l, const host::CommandBarControlPtr& o) {
     f->member(u"AddItem", [o](const Args& a) { return o->AddItem(a.asStr(0), a.has(1) ? a.asLong(1) : 0), nothing(); });
     f->member(u"ListCount", [o](const Args&) { return val(o->ListCount()); });
     f->member(u"List", [o](const Args& a) { return val(o->List(a.asLong(0))); });
+    auto picture = [f, o, &l](const Str& name, std::map<const void*, hosts::com::ComPtr<IDispatch>> FakeLedger::*slot) {
+        f->member(
+            name, [o, &l, slot](const Args&) { return ComVariant((l.*slot)[o.get()].get()); },
+            [o, &l, slot](const Args&, const VARIANT& v) {
+                if (v.vt != VT_DISPATCH) throw basic::VbError::standard(basic::err::TypeMismatch);
+                (l.*slot)[o.get()] = hosts::com::ComPtr<IDispatch>(v.pdispVal);
+            });
+    };
+    picture(u"Picture", &FakeLedger::pictures);
+    picture(u"Mask", &FakeLedger::masks);
     f->member(u"CopyFace", [o](const Args&) { return o->CopyFace(), nothing(); });
     f->member(u"PasteFace", [o](const Args&) { return o->PasteFace(), nothing(); });
     f->member(u"Execute", [o](const Args&) { return o->Execute(), nothing(); });

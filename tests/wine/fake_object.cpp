@@ -148,6 +148,8 @@ HRESULT FakeObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* para
     if (id < 1 || static_cast<size_t>(id) > members_.size()) return DISP_E_MEMBERNOTFOUND;
     if (++ledger_.calls == ledger_.failAt) {
         ++ledger_.injected;
+        ledger_.raised.push_back(std::string(typeName_.begin(), typeName_.end()) + "." +
+                                 std::string(members_[id - 1].name.begin(), members_[id - 1].name.end()) + ": injected");
         return raise(basic::VbError(440, u"Automation error (injected)"), info);
     }
     DISPPARAMS none{};

@@ -9,11 +9,13 @@
 #include <oaidl.h>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "host/objects.h"
+#include "hosts/com/com_ptr.h"
 #include "hosts/com/com_variant.h"
 
 namespace quillet::wine {
@@ -33,6 +35,9 @@ struct FakeLedger {
     long calls = 0;                       // member calls (Invoke) the add-in made
     long failAt = 0;                      // the call (counting calls) made to fail; 0 none
     long injected = 0;                    // failures injected so far
+    // The Picture and Mask set on each control (keyed by the editor's control), as the add-in
+    // handed them over.
+    std::map<const void*, hosts::com::ComPtr<IDispatch>> pictures, masks;
     long clicks = 0;                      // Click events raised on the add-in's sinks
     std::vector<HRESULT> clickResults;    // what each sink's Invoke returned, when not S_OK
 };

@@ -14,7 +14,7 @@ namespace {
 // At most this many runs of a phase; above it, every n-th call is failed. A connection takes
 // long under Wine, so fewer of its calls are tried.
 constexpr long kMaxRuns = 120;
-constexpr long kMaxConnectionRuns = 40;
+constexpr long kMaxConnectionRuns = 250;
 
 const std::vector<Str> kProcModule = {u"Option Explicit", u"", u"Public Sub Main()", u"    Dim x As Long", u"    ",
                                       u"End Sub"};
@@ -73,7 +73,7 @@ void faultsWhileConnecting(Checks& c) {
     long runs = 0, bad = 0;
     std::string firstBad;
     for (long k = 1; k <= total; k += stride) {
-        Checks quiet;
+        Checks quiet(false);
         Session s(quiet, editorForFaults());
         s.ledger().failAt = k;
         HRESULT connected = s.connect(ext_cm_Startup);
@@ -84,7 +84,8 @@ void faultsWhileConnecting(Checks& c) {
                   s.vbe().commandBars()->bar(u"Quillet") == nullptr;
         if (!ok && bad++ == 0) {
             firstBad = "call " + std::to_string(k) + ": " + hex(connected) + " " + hex(disconnected) + ", " +
-                       std::to_string(s.ledger().live) + " held, " + std::to_string(s.ledger().injected) + " injected";
+                       std::to_string(s.ledger().live) + " held, " + std::to_string(s.ledger().injected) + " injected" +
+                       (s.ledger().raised.empty() ? std::string() : ", " + s.ledger().raised.back());
         }
     }
     c.check(bad == 0,

@@ -8,17 +8,21 @@ namespace quillet::wine {
 
 class Checks {
 public:
+    // A quiet one counts without printing (for checks repeated in a loop).
+    explicit Checks(bool print = true) : print_(print) {}
+
     void check(bool ok, const std::string& what, const std::string& detail = {}) {
+        ok ? ++passed_ : ++failed_;
+        if (!print_) return;
         if (ok) {
-            ++passed_;
             std::printf("PASS  %s\n", what.c_str());
         } else {
-            ++failed_;
             std::printf("FAIL  %s%s%s\n", what.c_str(), detail.empty() ? "" : ": ", detail.c_str());
         }
         std::fflush(stdout);
     }
     void note(const std::string& text) {
+        if (!print_) return;
         std::printf("      %s\n", text.c_str());
         std::fflush(stdout);
     }
@@ -26,6 +30,7 @@ public:
     int failed() const { return failed_; }
 
 private:
+    bool print_;
     int passed_ = 0;
     int failed_ = 0;
 };

@@ -1,11 +1,13 @@
 #include "platform/win/win_platform.h"
 
+#include <olectl.h>
 #include <shellapi.h>
 
 #include <vector>
 
 #include "basic/variant.h"
 #include "hosts/com/bstr.h"
+#include "hosts/com/com_dispatch.h"
 
 namespace quillet::platform::win {
 
@@ -177,12 +179,43 @@ void WinPlatform::CloseWindowOfClass(const Str& className) {
     if (HWND window = FindWindowW(toWide(className).c_str(), nullptr)) CloseWindow(window);
 }
 
-basic::DispatchPtr WinPlatform::FacePicture(long faceId, bool /*mask*/) {
-    // The faces are not drawn yet: the bar shows captions.
-    throw basic::VbError(326, u"Resource with identifier '" + basic::CStr(static_cast<long long>(faceId)) + u"' not found",
-                         u"FacePicture");
+HBITMAP WinPlatform::faceBitmap(long faceId, bool mask) const {
+    if (!faceExists(faceId)) throw resourceNotFound(faceId);
+    // The faces are bitmap resources of the DLL (src/win32/faces.rc): a face's mask is 1000 + face.
+    long id = mask ? kMaskResourceOffset + faceId : faceId;
+    auto bitmap = static_cast<HBITMAP>(LoadImageW(module_, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
+    if (!bitmap) throw resourceNotFound(faceId);
+    return bitmap;
 }
 
-void WinPlatform::ClipboardSetFace(long faceId) { FacePicture(faceId, false); }
+basic::DispatchPtr WinPlatform::FacePicture(long faceId, bool mask) {
+    HBITMAP bitmap = faceBitmap(faceId, mask);
+    PICTDESC desc{};
+    desc.cbSizeofstruct = sizeof desc;
+    desc.picType = PICTYPE_BITMAP;
+    desc.bmp.hbitmap = bitmap;
+    IPictureDisp* picture = nullptr;
+    // The picture owns the bitmap from here on.
+    HRESULT hr = OleCreatePictureIndirect(&desc, IID_IPictureDisp, TRUE, reinterpret_cast<void**>(&picture));
+    if (FAILED(hr) || !picture) {
+        DeleteObject(bitmap);
+        throw basic::VbError::standard(basic::err::OutOfMemory, u"FacePicture");
+    }
+    basic::DispatchPtr result = hosts::com::wrapDispatch(picture);
+    picture->Release();
+    return result;
+}
+
+void WinPlatform::ClipboardSetFace(long faceId) {
+    HBITMAP bitmap = faceBitmap(faceId, false);
+    Clipboard clipboard;
+    if (!clipboard.open()) {
+        DeleteObject(bitmap);
+        throw basic::VbError(521, u"Can't open Clipboard");
+    }
+    EmptyClipboard();
+    // The clipboard owns the bitmap once it takes it.
+    if (!SetClipboardData(CF_BITMAP, bitmap)) DeleteObject(bitmap);
+}
 
 }  // namespace quillet::platform::win

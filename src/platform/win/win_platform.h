@@ -39,6 +39,10 @@ public:
     void ClipboardSetFace(long faceId) override;
 
 private:
+    // A face's bitmap (or its mask's) from the DLL's resources; raises 326 for an unknown face.
+    HBITMAP faceBitmap(long faceId, bool mask) const;
+
+    static constexpr long kMaskResourceOffset = 1000;
     HMODULE module_;
     HCURSOR savedCursor_ = nullptr;
 };
