@@ -56,8 +56,10 @@ if [ -z "$required$optional" ]; then
     exit 0
 fi
 
+addedI386=""
 if [ -n "$optional" ] && ! dpkg --print-foreign-architectures | grep -qx i386; then
     $SUDO dpkg --add-architecture i386
+    addedI386=yes
 fi
 updateIndexes
 
@@ -71,6 +73,11 @@ if ! install $required $optional; then
         fi
         echo "install-windows-toolchain: WARNING: $optional could not be installed;" \
              "32-bit programs will not run under Wine"
+        # A mirror without i386 indexes would fail every later apt-get update: take the
+        # architecture back out when nothing of it got installed.
+        if [ -n "$addedI386" ] && [ -z "$(dpkg-query -W -f='${Architecture}\n' 2>/dev/null | grep -x i386)" ]; then
+            $SUDO dpkg --remove-architecture i386 || true
+        fi
     fi
 fi
 
