@@ -1,7 +1,8 @@
 #!/bin/sh
 # Builds Quillet.dll and the Wine harness for 64-bit and 32-bit Windows, then runs the harness
 # under Wine (in a virtual X server) against each DLL, in a fresh Wine prefix. Prints a summary
-# and exits non-zero when a build or a check fails.
+# and exits non-zero when a build or a check fails. With both DLLs built, the installer is made
+# and tested too (scripts/build-installer.sh, scripts/test-installer.sh).
 #
 #   scripts/run-wine-tests.sh [64] [32]      (both when none is named)
 #
@@ -93,6 +94,21 @@ for arch in $ARCHS; do
         failed=1
     fi
 done
+
+# The installer, once both DLLs are built: made with NSIS, installed and removed silently.
+if [ -f "$ROOT/build-win32/Quillet.dll" ] && [ -f "$ROOT/build-win64/Quillet.dll" ] && command -v makensis >/dev/null; then
+    start=$(date +%s)
+    if "$ROOT/scripts/build-installer.sh" >"$ROOT/build-wine/installer-build.log" 2>&1 &&
+        "$ROOT/scripts/test-installer.sh"; then
+        summary="$summary\n  installer: PASSED"
+    else
+        summary="$summary\n  installer: FAILED (see build-wine/installer.log)"
+        failed=1
+    fi
+    note "installer took $(( $(date +%s) - start )) s"
+else
+    summary="$summary\n  installer: not built (a DLL or makensis is missing)"
+fi
 
 printf "Wine tests:$summary\n"
 exit $failed

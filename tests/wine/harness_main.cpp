@@ -4,6 +4,10 @@
 // unregisters it, leaving the registry as it found it.
 //
 //     quillet_wine_harness.exe Z:\path\to\Quillet.dll
+//     quillet_wine_harness.exe C:\...\Quillet.dll --installed
+//
+// With --installed the DLL was registered by the installer: the harness checks that
+// registration and connects the add-in through it, and leaves the registration alone.
 
 #include <windows.h>
 
@@ -59,6 +63,14 @@ void checkRegistration(Checks& c) {
 
 }  // namespace
 
+// The add-in as an installer left it: registered, found and connected.
+int runInstalled(Checks& c) {
+    checkRegistration(c);
+    runConnectionScenarios(c);
+    std::printf("%s: %d passed, %d failed\n", c.failed() ? "FAILED" : "PASSED", c.passed(), c.failed());
+    return c.failed() ? 1 : 0;
+}
+
 int wmain(int argc, wchar_t** argv) {
     if (argc < 2) {
         std::fprintf(stderr, "usage: quillet_wine_harness Quillet.dll\n");
@@ -72,6 +84,7 @@ int wmain(int argc, wchar_t** argv) {
         AddinDll dll(argv[1]);
         c.check(dll.loaded(), "Quillet.dll loads", narrow(std::wstring(argv[1])));
         if (!dll.loaded()) return 1;
+        if (argc > 2 && std::wstring(argv[2]) == L"--installed") return runInstalled(c);
         // A run that stopped half-way leaves its registration behind: start from a clean state.
         if (!readAddins(editorAddinsKey()).empty()) {
             c.note("removing the registration an earlier run left behind");
