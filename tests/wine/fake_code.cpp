@@ -110,8 +110,9 @@ IDispatch* fake(FakeLedger& l, const host::WindowsPtr& o) {
     f->member(u"CreateToolWindow", [&l, o](const Args& a) {
         basic::DispatchPtr doc;
         auto window = o->CreateToolWindow(nullptr, a.asStr(1), a.asStr(2), a.asStr(3), doc);
-        // The document objects of the memory editor are not COM objects: the add-in gets Nothing.
-        a.setDispatch(4, nullptr);
+        // The document the editor made goes back through the by-reference argument.
+        auto docObject = hosts::com::ComPtr<IDispatch>::attach(fake(l, doc));
+        a.setDispatch(4, docObject.get());
         return obj(l, window);
     });
     return f;

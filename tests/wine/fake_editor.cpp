@@ -89,7 +89,9 @@ IDispatch* fake(FakeLedger& l, const host::VBComponentPtr& o) {
         [o](const Args&, const VARIANT& v) { o->Name(strOf(v)); });
     f->member(u"Type", [o](const Args&) { return val(o->Type()); });
     f->member(u"CodeModule", [&l, o](const Args&) { return obj(l, o->CodeModule()); });
+    f->member(u"Designer", [&l, o](const Args&) { return obj(l, o->Designer()); });
     f->member(u"DesignerWindow", [&l, o](const Args&) { return obj(l, o->DesignerWindow()); });
+    f->member(u"Properties", [&l, o](const Args&) { return obj(l, o->Properties()); });
     f->member(u"Export", [o](const Args& a) {
         o->Export(a.asStr(0));
         return ComVariant();

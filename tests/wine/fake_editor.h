@@ -24,6 +24,8 @@ IDispatch* fake(FakeLedger& l, const host::CommandBarPtr& o);
 IDispatch* fake(FakeLedger& l, const host::CommandBarControlsPtr& o);
 IDispatch* fake(FakeLedger& l, const host::CommandBarControlPtr& o);
 IDispatch* fake(FakeLedger& l, const host::EventsPtr& o);
+// A plain late-bound object of the memory editor (designer, properties, tool window document).
+IDispatch* fake(FakeLedger& l, const basic::DispatchPtr& o);
 // The AddIn object handed to OnConnection beside the editor.
 IDispatch* fakeAddIn(FakeLedger& l);
 

@@ -175,11 +175,11 @@ HRESULT FakeObject::call(const Member& m, WORD flags, DISPPARAMS& params, VARIAN
             return DISP_E_PARAMNOTFOUND;
         }
         if (!m.put) return DISP_E_MEMBERNOTFOUND;
-        m.put(Args(params, 1), deref(params.rgvarg[0]));
+        m.put(Args(params, 1, flags), deref(params.rgvarg[0]));
         return S_OK;
     }
     if (params.cNamedArgs != 0) return DISP_E_NONAMEDARGS;
-    ComVariant value = m.get(Args(params, 0));
+    ComVariant value = m.get(Args(params, 0, flags));
     if (result) {
         VariantInit(result);
         VariantCopy(result, value.get());

@@ -45,8 +45,11 @@ struct FakeLedger {
 // The arguments of one call, first to last.
 class Args {
 public:
-    explicit Args(DISPPARAMS& params, UINT skip) : params_(params), skip_(skip) {}
+    Args(DISPPARAMS& params, UINT skip, WORD flags = DISPATCH_PROPERTYGET)
+        : params_(params), skip_(skip), flags_(flags) {}
     UINT count() const { return params_.cArgs - skip_; }
+    // Called as a method only (not read as a property).
+    bool isMethodCall() const { return (flags_ & DISPATCH_PROPERTYGET) == 0; }
     // Present: given and not left out (VT_ERROR DISP_E_PARAMNOTFOUND).
     bool has(UINT i) const;
     VARIANT& at(UINT i) const;
@@ -61,6 +64,7 @@ public:
 private:
     DISPPARAMS& params_;
     UINT skip_;  // the value of a property put sits in front
+    WORD flags_;
 };
 
 // {6C1E7D52-3E8B-4C59-9E0A-3B7F2B6A9D11}: QueryInterface gives the FakeObject itself.
