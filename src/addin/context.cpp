@@ -6,6 +6,7 @@
 #include "addin/frm_timer.h"
 #include "addin/version.h"
 #include "basic/unicode.h"
+#include "support/cls_html_help.h"
 
 namespace quillet::addin {
 

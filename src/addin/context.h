@@ -18,6 +18,10 @@
 #include "source/scan_proc.h"
 #include "source/scan_state.h"
 
+namespace quillet::support {
+class clsHtmlHelp;
+}
+
 namespace quillet::addin {
 
 using basic::Str;
@@ -136,6 +140,8 @@ public:
     std::function<std::optional<Str>(Context&, const Str& title, const std::vector<Str>& items)> SelectFromList;
     // The command bar's controls and their click sinks, kept while connected.
     std::shared_ptr<CommandBarState> commandBar;
+    // The help file's service (basHTMLHelp makes it at its first use).
+    std::unique_ptr<support::clsHtmlHelp> HtmlHelpObject;
 
 private:
     std::shared_ptr<platform::Platform> platform_;

@@ -34,7 +34,11 @@ frmArgument::frmArgument(addin::Context& ctx) : Form(u"frmArgument"), ctx_(ctx) 
     Caption = u"Argument Builder";
     addControls();
     hookEvents();
+    HelpContextID = support::help_topics::ArgumentBuilder;
+    help_.init(*this, Controls(u"cmdHelp"), -1, support::basHTMLHelp(ctx_));
 }
+
+void frmArgument::Form_Unload() { help_.Terminate(); }
 
 void frmArgument::addControls() {
     AddControl(u"txtName", ControlKind::TextBox);

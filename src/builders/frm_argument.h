@@ -7,6 +7,7 @@
 
 #include "addin/context.h"
 #include "dialogs/form.h"
+#include "support/cls_html_help.h"
 #include "generators/cls_procedure.h"
 
 namespace quillet::builders {
@@ -39,6 +40,7 @@ public:
     Str FocusedControl;
 
 protected:
+    void Form_Unload() override;
     void Form_Load() override;
     void Form_Activate() override;
 
@@ -59,6 +61,7 @@ private:
     void guard(const Str& method, const std::function<void()>& statement);
 
     addin::Context& ctx_;
+    support::clsHtmlHelpForForm help_;
     std::shared_ptr<source::clsScanModule> scanModule_;
     std::shared_ptr<source::clsScanProc> scanProc_;
     bool nameQuiet_ = false;

@@ -30,7 +30,11 @@ frmProcedure::frmProcedure(addin::Context& ctx)
     Caption = u"Procedure Builder";
     addControls();
     hookEvents();
+    HelpContextID = support::help_topics::ProcedureBuilder;
+    help_.init(*this, Controls(u"cmdHelp"), -1, support::basHTMLHelp(ctx_));
 }
+
+void frmProcedure::Form_Unload() { help_.Terminate(); }
 
 frmProcedure::~frmProcedure() = default;
 

@@ -7,6 +7,7 @@
 
 #include "builders/frm_argument.h"
 #include "dialogs/form.h"
+#include "support/cls_html_help.h"
 #include "generators/cls_procedure.h"
 
 namespace quillet::builders {
@@ -55,6 +56,7 @@ public:
     Str FocusedControl;
 
 protected:
+    void Form_Unload() override;
     void Form_Activate() override;
 
 private:
@@ -81,6 +83,7 @@ private:
     void stateOf(const Str& box, bool enabled, bool& remembered);
 
     addin::Context& ctx_;
+    support::clsHtmlHelpForForm help_;
     bool mfIsMethod_ = false;
     std::unique_ptr<generators::clsProcedure> procedure_;
     std::unique_ptr<frmArgument> argumentForm_;

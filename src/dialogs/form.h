@@ -68,6 +68,12 @@ public:
     Str Tag;
     // The dialog that opened this one, which it reports back to by name.
     Form* ParentForm = nullptr;
+    // The help topic of the dialog (0: none).
+    long HelpContextID = 0;
+    // What F1 does in the dialog; the view calls it. Empty: F1 does nothing.
+    std::function<void()> OnHelpKey;
+    // The window that shows the form (set by the view; 0 without one).
+    long long hWnd = 0;
 
     // The stack this form shows on; a form made with none takes its parent's when shown.
     FormStack* Stack() const { return stack_; }

@@ -36,6 +36,8 @@ std::optional<long> positiveNumber(const std::optional<Str>& value) {
 std::optional<FileDialogChoice> Platform::ShowOpenFileDialog(const FileDialogRequest&) { return std::nullopt; }
 std::optional<FileDialogChoice> Platform::ShowSaveFileDialog(const FileDialogRequest&) { return std::nullopt; }
 std::optional<Str> Platform::BrowseForFolder(const Str&, const Str&) { return std::nullopt; }
+long long Platform::HtmlHelp(long long, const Str&, HtmlHelpCommand, long) { return 0; }
+void Platform::CloseHelpWindow(long long) {}
 
 int defaultAnswer(int buttons) {
     auto answers = answersOf(buttons);

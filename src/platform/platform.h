@@ -71,6 +71,16 @@ struct FileDialogChoice {
 // The key of the editor's own settings (tab width, code font).
 inline constexpr char16_t kEditorSettingsKey[] = u"Software\\Microsoft\\VBA\\6.0\\Common";
 
+// The HTML Help commands the add-in uses, with HHCtrl's numbers.
+enum class HtmlHelpCommand : unsigned {
+    DisplayTopic = 0x0000,   // data: none (the topic path is part of the file name)
+    DisplayToc = 0x0001,
+    DisplayIndex = 0x0002,
+    DisplaySearch = 0x0003,
+    HelpContext = 0x000F,    // data: the context id
+    CloseAll = 0x0012,
+};
+
 class Platform {
 public:
     virtual ~Platform() = default;
@@ -118,6 +128,13 @@ public:
     virtual std::optional<FileDialogChoice> ShowSaveFileDialog(const FileDialogRequest& request);
     // The folder chosen, without a final "\" unless it is a drive's root.
     virtual std::optional<Str> BrowseForFolder(const Str& title, const Str& startFolder);
+
+    // HTML Help (the control HHCtrl.ocx): runs one command on a compiled help file for a window
+    // and gives the handle of the help window it opened, 0 when none. A platform without it does
+    // nothing.
+    virtual long long HtmlHelp(long long window, const Str& file, HtmlHelpCommand command, long data);
+    // Asks a window (a help window) to close; nothing when it is gone.
+    virtual void CloseHelpWindow(long long window);
 
     // The bitmap of a command bar face (or of its mask) as a picture object, for
     // CommandBarControl.Picture and Mask. A face not in kFaceIds raises 326.

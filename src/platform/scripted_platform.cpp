@@ -195,4 +195,9 @@ bool ScriptedPlatform::FileExists(const Str& path) {
     return false;
 }
 
+long long ScriptedPlatform::HtmlHelp(long long window, const Str& file, HtmlHelpCommand command, long data) {
+    helpCalls_.push_back({window, file, command, data});
+    return command == HtmlHelpCommand::CloseAll ? 0 : nextHelpWindow_++;
+}
+
 }  // namespace quillet::platform

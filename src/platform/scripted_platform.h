@@ -99,6 +99,18 @@ public:
     // The face on the clipboard, 0 for none.
     long clipboardFace() const { return clipboardFace_; }
 
+    // HTML Help calls are recorded; each opening command gives the next handle from 9001 on.
+    struct HelpCall {
+        long long window;
+        Str file;
+        HtmlHelpCommand command;
+        long data;
+    };
+    long long HtmlHelp(long long window, const Str& file, HtmlHelpCommand command, long data) override;
+    void CloseHelpWindow(long long window) override { closedHelpWindows_.push_back(window); }
+    const std::vector<HelpCall>& helpCalls() const { return helpCalls_; }
+    const std::vector<long long>& closedHelpWindows() const { return closedHelpWindows_; }
+
     bool hourglassOn() const { return hourglass_; }
     const std::vector<Str>& opened() const { return opened_; }
 
@@ -120,6 +132,9 @@ private:
     Str addinFolder_ = u"C:\\Quillet\\";
     Str tempFolder_ = u"C:\\Temp\\";
     long clipboardFace_ = 0;
+    std::vector<HelpCall> helpCalls_;
+    std::vector<long long> closedHelpWindows_;
+    long long nextHelpWindow_ = 9001;
     long long focus_ = 0;
     bool hourglass_ = false;
 };

@@ -12,6 +12,9 @@ class WinPlatform : public Platform {
 public:
     // `module` is the add-in's own DLL: its folder is AddinFolder, and dialogs belong to it.
     explicit WinPlatform(HMODULE module) : module_(module) {}
+    ~WinPlatform() override;
+    WinPlatform(const WinPlatform&) = delete;
+    WinPlatform& operator=(const WinPlatform&) = delete;
 
     int MsgBox(const Str& prompt, int buttons, const Str& title) override;
     std::optional<Str> InputBox(const Str& prompt, const Str& title, const Str& defaultText) override;
@@ -37,6 +40,9 @@ public:
     std::optional<Str> BrowseForFolder(const Str& title, const Str& startFolder) override;
     basic::DispatchPtr FacePicture(long faceId, bool mask) override;
     void ClipboardSetFace(long faceId) override;
+    // HtmlHelpW of HHCtrl.ocx, loaded at the first call (html_help.cpp).
+    long long HtmlHelp(long long window, const Str& file, HtmlHelpCommand command, long data) override;
+    void CloseHelpWindow(long long window) override;
 
 private:
     // A face's bitmap (or its mask's) from the DLL's resources; raises 326 for an unknown face.
@@ -45,6 +51,9 @@ private:
     static constexpr long kMaskResourceOffset = 1000;
     HMODULE module_;
     HCURSOR savedCursor_ = nullptr;
+    // HHCtrl.ocx once loaded; failedHelpLoad_ once it could not be.
+    HMODULE helpLibrary_ = nullptr;
+    bool failedHelpLoad_ = false;
 };
 
 // The window that owns the add-in's boxes: the active window of this thread, else the
