@@ -7,6 +7,7 @@
 #include "basic/strings.h"
 #include "basic/unicode.h"
 #include "basic/vb_error.h"
+#include "dialogs/model_surface.h"
 
 namespace quillet::dialogs {
 
@@ -31,19 +32,24 @@ Str head(const UiCommand& c) {
 
 class Player {
 public:
-    Player(FormStack& forms, const UiScriptHooks& hooks) : forms_(forms), hooks_(hooks) {}
+    Player(UiSurface& surface, const UiScriptHooks& hooks) : surface_(surface), hooks_(hooks) {}
 
     void run(const UiCommand& c) {
         switch (c.verb) {
             case UiVerb::Open: open(c); break;
-            case UiVerb::Set: act(c, usable(c, {ControlKind::TextBox, ControlKind::ComboBox}, u"a text box or combo box"),
-                                  [&](Control& control) { control.Text(c.text); });
+            case UiVerb::Set:
+                usable(c, {ControlKind::TextBox, ControlKind::ComboBox}, u"a text box or combo box");
+                guarded(c, [&] { surface_.setText(c.target, c.text); });
                 break;
             case UiVerb::Select: select(c); break;
-            case UiVerb::Check: act(c, usable(c, {ControlKind::CheckBox, ControlKind::OptionButton}, u"a check box or option button"),
-                                    [&](Control& control) { control.Value(c.number); });
+            case UiVerb::Check:
+                usable(c, {ControlKind::CheckBox, ControlKind::OptionButton}, u"a check box or option button");
+                guarded(c, [&] { surface_.setValue(c.target, c.number); });
                 break;
-            case UiVerb::Click: act(c, usable(c, {}, u""), [](Control& control) { control.Click(); }); break;
+            case UiVerb::Click:
+                usable(c, {}, u"");
+                guarded(c, [&] { surface_.click(c.target); });
+                break;
             case UiVerb::Answer: answer(c); break;
             case UiVerb::Expect: expect(c); break;
             case UiVerb::ExpectForm: expectForm(c); break;
@@ -54,32 +60,27 @@ public:
 private:
     [[noreturn]] static void fail(const UiCommand& c, const Str& message) { throw Failure{head(c) + u": " + message}; }
 
-    Form& top(const UiCommand& c) {
-        Form* form = forms_.Top();
+    Str top(const UiCommand& c) {
+        std::optional<Str> form = surface_.topForm();
         if (!form) fail(c, u"no dialog is open");
         return *form;
     }
 
-    Control& control(const UiCommand& c) {
-        Form& form = top(c);
-        Control* found = form.Find(c.target);
-        if (!found) fail(c, form.Name() + u" has no control '" + c.target + u"'");
+    ControlSnapshot control(const UiCommand& c) {
+        Str form = top(c);
+        std::optional<ControlSnapshot> found = surface_.control(c.target);
+        if (!found) fail(c, form + u" has no control '" + c.target + u"'");
         return *found;
     }
 
     // The control, when a user could act on it.
-    Control& usable(const UiCommand& c, std::initializer_list<ControlKind> kinds, const Str& kindName) {
-        Control& found = control(c);
-        if (kinds.size() && std::find(kinds.begin(), kinds.end(), found.Kind()) == kinds.end())
+    ControlSnapshot usable(const UiCommand& c, std::initializer_list<ControlKind> kinds, const Str& kindName) {
+        ControlSnapshot found = control(c);
+        if (kinds.size() && std::find(kinds.begin(), kinds.end(), found.kind) == kinds.end())
             fail(c, u"the control is not " + kindName);
-        if (!found.Visible) fail(c, u"the control is hidden");
-        if (!found.Enabled) fail(c, u"the control is disabled");
+        if (!found.visible) fail(c, u"the control is hidden");
+        if (!found.enabled) fail(c, u"the control is disabled");
         return found;
-    }
-
-    template <class Action>
-    void act(const UiCommand& c, Control& control, Action action) {
-        guarded(c, [&] { forms_.Raise([&] { action(control); }); });
     }
 
     template <class Body>
@@ -94,37 +95,40 @@ private:
     }
 
     void open(const UiCommand& c) {
-        if (!forms_.IsRegistered(c.target)) fail(c, u"no dialog of that name can be opened");
-        guarded(c, [&] { forms_.Open(c.target, c.args); });
+        if (!surface_.canOpen(c.target)) fail(c, u"no dialog of that name can be opened");
+        guarded(c, [&] { surface_.open(c.target, c.args); });
     }
 
     void select(const UiCommand& c) {
-        Control& list = usable(c, {ControlKind::ComboBox, ControlKind::ListBox}, u"a list");
+        ControlSnapshot list = usable(c, {ControlKind::ComboBox, ControlKind::ListBox}, u"a list");
+        long count = static_cast<long>(list.entries.size());
         long index = c.number;
         if (c.byIndex) {
-            if (index >= list.ListCount()) fail(c, u"no entry #" + number(index) + u": the list has " + number(list.ListCount()));
+            if (index >= count) fail(c, u"no entry #" + number(index) + u": the list has " + number(count));
         } else {
             index = entryOf(list, c.text);
             if (index < 0) fail(c, u"no entry " + quoted(c.text) + u" in " + entries(list));
         }
-        act(c, list, [index](Control& control) { control.ListIndex(index); });
+        guarded(c, [&] { surface_.selectEntry(c.target, index); });
     }
 
     // The entry of that text, else the first one that differs only in case; -1 when none.
-    static long entryOf(const Control& list, const Str& text) {
-        for (long i = 0; i < list.ListCount(); ++i)
-            if (list.List(i) == text) return i;
-        for (long i = 0; i < list.ListCount(); ++i)
-            if (basic::StrComp(list.List(i), text, basic::Compare::Text) == 0) return i;
+    static long entryOf(const ControlSnapshot& list, const Str& text) {
+        long count = static_cast<long>(list.entries.size());
+        for (long i = 0; i < count; ++i)
+            if (list.entries[i].text == text) return i;
+        for (long i = 0; i < count; ++i)
+            if (basic::StrComp(list.entries[i].text, text, basic::Compare::Text) == 0) return i;
         return -1;
     }
 
-    static Str entries(const Control& list) {
-        if (list.ListCount() == 0) return u"an empty list";
+    static Str entries(const ControlSnapshot& list) {
+        if (list.entries.empty()) return u"an empty list";
         Str all;
-        long shown = std::min<long>(list.ListCount(), 12);
-        for (long i = 0; i < shown; ++i) all += (i ? u", " : u"") + quoted(list.List(i));
-        if (shown < list.ListCount()) all += u" ...";
+        long count = static_cast<long>(list.entries.size());
+        long shown = std::min<long>(count, 12);
+        for (long i = 0; i < shown; ++i) all += (i ? u", " : u"") + quoted(list.entries[i].text);
+        if (shown < count) all += u" ...";
         return u"(" + all + u")";
     }
 
@@ -134,33 +138,33 @@ private:
     }
 
     void expect(const UiCommand& c) {
-        Form& form = top(c);
-        if (!form.Find(c.target) && foldedName(c.target) == foldedName(form.Name())) return expectOfForm(c, form);
-        Control& found = control(c);
+        Str form = top(c);
+        if (!surface_.control(c.target) && foldedName(c.target) == foldedName(form)) return expectOfForm(c);
+        ControlSnapshot found = control(c);
         switch (c.property) {
-            case UiProperty::Text: same(c, c.text, found.Text()); break;
-            case UiProperty::Caption: same(c, c.text, found.Caption); break;
-            case UiProperty::ToolTip: same(c, c.text, found.ToolTipText); break;
-            case UiProperty::Value: sameNumber(c, found.Value()); break;
-            case UiProperty::ListIndex: sameNumber(c, found.ListIndex()); break;
-            case UiProperty::Count: sameNumber(c, found.ListCount()); break;
-            case UiProperty::Enabled: sameFlag(c, found.Enabled); break;
-            case UiProperty::Visible: sameFlag(c, found.Visible); break;
+            case UiProperty::Text: same(c, c.text, found.text); break;
+            case UiProperty::Caption: same(c, c.text, found.caption); break;
+            case UiProperty::ToolTip: same(c, c.text, found.toolTip); break;
+            case UiProperty::Value: sameNumber(c, found.value); break;
+            case UiProperty::ListIndex: sameNumber(c, found.listIndex); break;
+            case UiProperty::Count: sameNumber(c, static_cast<long>(found.entries.size())); break;
+            case UiProperty::Enabled: sameFlag(c, found.enabled); break;
+            case UiProperty::Visible: sameFlag(c, found.visible); break;
             case UiProperty::Item: same(c, c.text, entry(c, found).text); break;
             case UiProperty::ItemData: sameNumber(c, entry(c, found).itemData); break;
         }
     }
 
-    void expectOfForm(const UiCommand& c, Form& form) {
-        if (c.property == UiProperty::Caption) return same(c, c.text, form.Caption);
-        if (c.property == UiProperty::Visible) return sameFlag(c, form.Visible);
+    void expectOfForm(const UiCommand& c) {
+        if (c.property == UiProperty::Caption) return same(c, c.text, surface_.formCaption());
+        if (c.property == UiProperty::Visible) return sameFlag(c, surface_.formVisible());
         fail(c, u"a form has only caption and visible");
     }
 
-    static const ListEntry& entry(const UiCommand& c, Control& list) {
-        if (c.number >= list.ListCount())
-            fail(c, u"no entry " + number(c.number) + u": the list has " + number(list.ListCount()));
-        return list.Entries()[c.number];
+    static const ListEntry& entry(const UiCommand& c, const ControlSnapshot& list) {
+        long count = static_cast<long>(list.entries.size());
+        if (c.number >= count) fail(c, u"no entry " + number(c.number) + u": the list has " + number(count));
+        return list.entries[c.number];
     }
 
     static void same(const UiCommand& c, const Str& expected, const Str& found) {
@@ -174,7 +178,7 @@ private:
     }
 
     void expectForm(const UiCommand& c) {
-        bool open = forms_.FindOpen(c.target) != nullptr;
+        bool open = surface_.formOpen(c.target);
         if (open != c.flag) fail(c, c.flag ? u"the dialog is not open" : u"the dialog is open");
     }
 
@@ -201,7 +205,7 @@ private:
         return u"the module's text differs";
     }
 
-    FormStack& forms_;
+    UiSurface& surface_;
     const UiScriptHooks& hooks_;
 };
 
@@ -213,7 +217,12 @@ Str UiScriptOutcome::describe() const {
 }
 
 UiScriptOutcome playUiCommands(const std::vector<UiCommand>& commands, FormStack& forms, const UiScriptHooks& hooks) {
-    Player player(forms, hooks);
+    ModelSurface surface(forms);
+    return playUiCommands(commands, surface, hooks);
+}
+
+UiScriptOutcome playUiCommands(const std::vector<UiCommand>& commands, UiSurface& surface, const UiScriptHooks& hooks) {
+    Player player(surface, hooks);
     for (const UiCommand& c : commands) {
         try {
             player.run(c);
@@ -225,13 +234,18 @@ UiScriptOutcome playUiCommands(const std::vector<UiCommand>& commands, FormStack
 }
 
 UiScriptOutcome playUiScript(const Str& script, FormStack& forms, const UiScriptHooks& hooks) {
+    ModelSurface surface(forms);
+    return playUiScript(script, surface, hooks);
+}
+
+UiScriptOutcome playUiScript(const Str& script, UiSurface& surface, const UiScriptHooks& hooks) {
     std::vector<UiCommand> commands;
     try {
         commands = parseUiScript(script);
     } catch (const UiScriptSyntaxError& error) {
         return {UiScriptOutcome::Status::Invalid, error.line(), error.message()};
     }
-    return playUiCommands(commands, forms, hooks);
+    return playUiCommands(commands, surface, hooks);
 }
 
 }  // namespace quillet::dialogs

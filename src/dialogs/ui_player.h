@@ -9,6 +9,7 @@
 
 #include "dialogs/form_stack.h"
 #include "dialogs/ui_script.h"
+#include "dialogs/ui_surface.h"
 
 namespace quillet::dialogs {
 
@@ -36,6 +37,9 @@ struct UiScriptOutcome {
     Str describe() const;
 };
 
+// On any surface (the real windows, say), or on the models of a stack.
+UiScriptOutcome playUiScript(const Str& script, UiSurface& surface, const UiScriptHooks& hooks);
+UiScriptOutcome playUiCommands(const std::vector<UiCommand>& commands, UiSurface& surface, const UiScriptHooks& hooks);
 UiScriptOutcome playUiScript(const Str& script, FormStack& forms, const UiScriptHooks& hooks);
 UiScriptOutcome playUiCommands(const std::vector<UiCommand>& commands, FormStack& forms, const UiScriptHooks& hooks);
 
