@@ -1,6 +1,7 @@
 #!/bin/sh
 # Builds Quillet.dll and the Wine harness for 64-bit and 32-bit Windows, then runs the harness
-# under Wine (in a virtual X server) against each DLL, in a fresh Wine prefix. Prints a summary
+# under Wine (in a virtual X server) against each DLL, in a fresh Wine prefix, and the host
+# contract over the COM host (quillet_com_contract). Prints a summary
 # and exits non-zero when a build or a check fails. With both DLLs built, the installer is made
 # and tested too (scripts/build-installer.sh, scripts/test-installer.sh).
 #
@@ -22,6 +23,11 @@ failed=0
 
 note() { printf '%s\n' "run-wine-tests: $*"; }
 
+# The number of host contract checks that passed over the COM host.
+contractPassed() {
+    grep -c '^\[       OK \]' "$ROOT/build-wine/contract$1.log" 2>/dev/null || true
+}
+
 # 32-bit programs need Wine's 32-bit half.
 canRun32() {
     dpkg-query -W -f='${Status}' wine32:i386 2>/dev/null | grep -q "install ok installed"
@@ -36,7 +42,8 @@ buildArch() {
     start=$(date +%s)
     cmake -S "$ROOT" -B "$dir" -DCMAKE_TOOLCHAIN_FILE="$ROOT/cmake/$toolchain.cmake" \
         -DCMAKE_BUILD_TYPE="$BUILD_TYPE" -DQUILLET_TESTS=OFF -DQUILLET_BENCH=OFF >"$dir.configure.log" 2>&1 &&
-        cmake --build "$dir" -j"$JOBS" --target Quillet quillet_wine_harness quillet_profile_compare >"$dir.build.log" 2>&1
+        cmake --build "$dir" -j"$JOBS" --target Quillet quillet_wine_harness quillet_profile_compare \
+            quillet_com_contract >"$dir.build.log" 2>&1
     status=$?
     note "$arch-bit build took $(( $(date +%s) - start )) s"
     if [ $status -ne 0 ]; then
@@ -73,6 +80,11 @@ runArch() {
     wine "$dir/quillet_profile_compare.exe" >"$plog" 2>&1 || status=1
     grep -E '^(FAIL  |      )' "$plog" || true
     tail -n 1 "$plog"
+    # The host contract over the COM host (its own log; a failure fails the run).
+    clog=$ROOT/build-wine/contract$arch.log
+    wine "$dir/tests/wine/contract/quillet_com_contract.exe" >"$clog" 2>&1 || status=1
+    grep -E '^\[  FAILED  \]' "$clog" || true
+    tail -n 1 "$clog"
     note "$arch-bit harness took $(( $(date +%s) - start )) s (prefix included)"
     return $status
 }
@@ -88,9 +100,11 @@ for arch in $ARCHS; do
         continue
     fi
     if runArch "$arch"; then
-        summary="$summary\n  $arch-bit: PASSED ($(grep -c '^PASS  ' "$ROOT/build-wine/harness$arch.log") checks)"
+        summary="$summary\n  $arch-bit: PASSED ($(grep -c '^PASS  ' "$ROOT/build-wine/harness$arch.log") checks;"
+        summary="$summary contract: $(contractPassed "$arch") passed)"
     else
-        summary="$summary\n  $arch-bit: FAILED (see build-wine/harness$arch.log)"
+        summary="$summary\n  $arch-bit: FAILED (see build-wine/harness$arch.log, contract$arch.log;"
+        summary="$summary contract: $(contractPassed "$arch") passed)"
         failed=1
     fi
 done
