@@ -1,7 +1,7 @@
 #pragma once
 // The behaviour every implementation of the editor's object model must show, as one
 // value-parameterised suite (HostContract) over a host factory. The memory host instantiates it
-// in tests/hosts/memory; a COM host driven by a Windows harness runs the same checks.
+// in tests/hosts/memory; tests/wine/contract runs the same checks over the COM host, under Wine.
 // The checks use only the abstract classes of host/objects.h.
 
 #include <gtest/gtest.h>
