@@ -1,0 +1,10 @@
+#include "builders/builder_layouts.h"
+
+namespace quillet::builders {
+
+void AddBuilderLayouts(dialogs::LayoutCatalog& catalog) {
+    catalog.Add(u"frmProcedure", frmProcedureLayout);
+    catalog.Add(u"frmArgument", frmArgumentLayout);
+}
+
+}  // namespace quillet::builders

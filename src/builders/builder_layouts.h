@@ -1,0 +1,14 @@
+#pragma once
+// The window layouts of the builders' dialogs, for the views that draw them.
+
+#include "dialogs/layout.h"
+
+namespace quillet::builders {
+
+dialogs::FormLayout frmProcedureLayout();
+dialogs::FormLayout frmArgumentLayout();
+
+// Adds every builder's layout to the catalogue, by form name.
+void AddBuilderLayouts(dialogs::LayoutCatalog& catalog);
+
+}  // namespace quillet::builders
