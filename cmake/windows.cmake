@@ -14,14 +14,16 @@ add_library(quillet_win STATIC ${QUILLET_WIN_SOURCES})
 target_link_libraries(quillet_win PUBLIC quillet_core ${QUILLET_WIN_LIBRARIES})
 target_compile_definitions(quillet_win PUBLIC ${QUILLET_WIN_DEFINITIONS})
 
-file(GLOB QUILLET_DLL_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/win32/*.cpp)
+file(GLOB QUILLET_DLL_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/win32/*.cpp
+  ${CMAKE_SOURCE_DIR}/src/win32/view/*.cpp)
 # The command bar faces (bitmaps made by scripts/make-faces.py) are resources of the DLL.
 enable_language(RC)
 add_library(Quillet SHARED ${QUILLET_DLL_SOURCES} ${CMAKE_SOURCE_DIR}/src/win32/quillet.def
   ${CMAKE_SOURCE_DIR}/src/win32/faces.rc)
 target_include_directories(Quillet PRIVATE ${CMAKE_SOURCE_DIR}/src/win32)
 set_target_properties(Quillet PROPERTIES PREFIX "" OUTPUT_NAME Quillet)
-target_link_libraries(Quillet PRIVATE quillet_win)
+# The dialogs' tool tips come from the common controls.
+target_link_libraries(Quillet PRIVATE quillet_win comctl32)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   # The exports are named without the stdcall decoration, as regsvr32 and COM look them up.
   target_link_options(Quillet PRIVATE -Wl,--enable-stdcall-fixup)

@@ -1,6 +1,7 @@
 #include "win32/connect_object.h"
 
 #include "addin/frm_timer.h"
+#include "builders/builder_layouts.h"
 #include "hosts/com/com_dispatch.h"
 #include "hosts/com/com_host.h"
 #include "platform/win/win_platform.h"
@@ -12,6 +13,7 @@ ConnectObject::ConnectObject() = default;
 
 ConnectObject::~ConnectObject() {
     try {
+        views_.reset();
         timers_.reset();
         connect_.reset();
     } catch (...) {
@@ -35,13 +37,18 @@ HRESULT ConnectObject::OnConnection(IDispatch* application, long connectMode, ID
             connect_ = std::make_unique<addin::Connect>(std::make_shared<platform::win::WinPlatform>(module().handle()),
                                                         module().hostApplications());
             // Reports also go to the debugger's output, where a tool such as DebugView shows them.
-            connect_->prepareContext([](addin::Context& ctx) {
+            connect_->prepareContext([this](addin::Context& ctx) {
                 // The settings files go through the Windows profile functions themselves.
                 ctx.IniSettings->setProfile(std::make_unique<platform::win::WinProfile>());
                 ctx.reportListener = [](const basic::Str& report) {
                     std::wstring text(report.begin(), report.end());
                     OutputDebugStringW((L"Quillet: " + text + L"\n").c_str());
                 };
+                // Each form shown on the context's stack gets its window.
+                views_.reset();
+                dialogs::LayoutCatalog layouts;
+                builders::AddBuilderLayouts(layouts);
+                views_ = std::make_unique<view::DialogViews>(ctx, module().handle(), std::move(layouts));
             });
         }
         if (!timers_) timers_ = std::make_shared<TimerWindow>(module().handle(), [this] { return timerForm(); });
@@ -61,6 +68,8 @@ HRESULT ConnectObject::OnConnection(IDispatch* application, long connectMode, ID
 
 HRESULT ConnectObject::OnDisconnection(long removeMode, SAFEARRAY**) {
     try {
+        // The windows go first: the forms and the context they show are taken down next.
+        views_.reset();
         if (connect_) connect_->AddinInstance_OnDisconnection(removeMode);
         // Every editor object the add-in held goes with the connection.
         connect_.reset();

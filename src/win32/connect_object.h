@@ -8,6 +8,7 @@
 #include "addin/connect.h"
 #include "win32/extensibility_object.h"
 #include "win32/timer_window.h"
+#include "win32/view/dialog_views.h"
 
 namespace quillet::win32 {
 
@@ -33,6 +34,8 @@ private:
 
     std::unique_ptr<addin::Connect> connect_;
     std::shared_ptr<TimerWindow> timers_;
+    // The dialogs' windows over the connection's form stack; they go before the context does.
+    std::unique_ptr<view::DialogViews> views_;
 };
 
 }  // namespace quillet::win32

@@ -107,6 +107,7 @@ int wmain(int argc, wchar_t** argv) {
         timed("timer", runTimerScenarios);
         timed("bar", runBarScenarios);
         timed("fault", runFaultScenarios);
+        timed("view", runViewScenarios);
 
         CoFreeUnusedLibraries();
         c.check(dll.canUnloadNow() == S_OK, "DllCanUnloadNow once everything is released");

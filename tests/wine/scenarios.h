@@ -14,5 +14,8 @@ void runTimerScenarios(Checks& c);
 void runBarScenarios(Checks& c);
 // Failures injected into each editor call of connection, a click and a tick.
 void runFaultScenarios(Checks& c);
+// The dialogs' windows: the Procedure and Argument Builders opened from the bar, driven through
+// their controls, closed by OK, Cancel and Escape, and taken down at disconnection.
+void runViewScenarios(Checks& c);
 
 }  // namespace quillet::wine
