@@ -36,6 +36,25 @@ BOOL CALLBACK child(HWND window, LPARAM lParam) {
     return TRUE;
 }
 
+struct ToolTipSearch {
+    HWND dialog, control;
+    std::wstring text;
+};
+
+BOOL CALLBACK toolTipWindow(HWND window, LPARAM lParam) {
+    auto& s = *reinterpret_cast<ToolTipSearch*>(lParam);
+    if (lstrcmpiW(className(window).c_str(), TOOLTIPS_CLASSW) != 0 || GetWindow(window, GW_OWNER) != s.dialog) return TRUE;
+    wchar_t text[512] = {};
+    TTTOOLINFOW info{};
+    info.cbSize = offsetof(TTTOOLINFOW, lParam) + sizeof(LPARAM);
+    info.hwnd = s.dialog;
+    info.uId = reinterpret_cast<UINT_PTR>(s.control);
+    info.lpszText = text;
+    if (!SendMessageW(window, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&info))) return TRUE;
+    s.text = text;
+    return FALSE;
+}
+
 bool isCombo(HWND window) { return lstrcmpiW(className(window).c_str(), L"ComboBox") == 0; }
 
 }  // namespace
@@ -82,27 +101,8 @@ std::wstring className(HWND window) {
 }
 
 std::wstring toolTip(HWND dialog, HWND control) {
-    struct Search {
-        HWND dialog, control;
-        std::wstring text;
-    } search{dialog, control, {}};
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM lParam) -> BOOL {
-            auto& s = *reinterpret_cast<Search*>(lParam);
-            if (lstrcmpiW(className(window).c_str(), TOOLTIPS_CLASSW) != 0 || GetWindow(window, GW_OWNER) != s.dialog)
-                return TRUE;
-            wchar_t text[512] = {};
-            TTTOOLINFOW info{};
-            info.cbSize = offsetof(TTTOOLINFOW, lParam) + sizeof(LPARAM);
-            info.hwnd = s.dialog;
-            info.uId = reinterpret_cast<UINT_PTR>(s.control);
-            info.lpszText = text;
-            if (!SendMessageW(window, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&info))) return TRUE;
-            s.text = text;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&search));
+    ToolTipSearch search{dialog, control, {}};
+    EnumThreadWindows(GetCurrentThreadId(), toolTipWindow, reinterpret_cast<LPARAM>(&search));
     return search.text;
 }
 
