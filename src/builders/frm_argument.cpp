@@ -7,6 +7,7 @@
 #include "source/name_checks.h"
 #include "source/prefixes.h"
 #include "source/type_lists.h"
+#include "support/cls_combo_expand.h"
 
 namespace quillet::builders {
 
@@ -94,6 +95,8 @@ void frmArgument::hookEvents() {
     };
     Method(u"ArgInsert", takeDefault);
     Method(u"AddNewConst", takeDefault);
+    // Type-ahead in the list of types.
+    support::clsComboExpand::init(*this, Controls(u"cboDataType"));
 }
 
 void frmArgument::guard(const Str& method, const std::function<void()>& statement) {

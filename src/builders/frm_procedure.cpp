@@ -9,6 +9,7 @@
 #include "source/scan_module.h"
 #include "source/type_lists.h"
 #include "source/words.h"
+#include "support/cls_combo_expand.h"
 
 namespace quillet::builders {
 
@@ -90,6 +91,9 @@ void frmProcedure::hookEvents() {
         ArgumentsList(args.empty() ? -1 : basic::CLng(args.at(0)));
         return basic::Variant{};
     });
+    // Type-ahead in the lists that take typed text.
+    for (const char16_t* combo : {u"cboReturnValueType", u"cboModule"})
+        support::clsComboExpand::init(*this, Controls(combo));
 }
 
 void frmProcedure::guard(const Str& method, const std::function<void()>& statement) {

@@ -3,6 +3,8 @@
 // the Argument Builder over it, Escape through the keyboard hook, OK writing the procedure and
 // Cancel writing nothing, and every window gone at disconnection.
 
+#include <algorithm>
+
 #include "bar_walk.h"
 #include "dialog_finder.h"
 #include "scenarios.h"
@@ -110,6 +112,22 @@ void checkControls(Checks& c, HWND dialog) {
     c.check(tip == L"Add a new argument", "cmdNewArg's tool tip is the model's \"Add a new argument\"", narrow(tip));
 }
 
+// Keys typed into an editable combo box's field reach the model first: its type-ahead selects the
+// first entry that starts with them, and the swallowed keys never reach the field.
+void typeAhead(Checks& c, HWND combo) {
+    HWND edit = FindWindowExW(combo, nullptr, L"Edit", nullptr);
+    SendMessageW(combo, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
+    for (wchar_t key : {L'L', L'o'}) PostMessageW(edit, WM_CHAR, key, 1);
+    pump(200);
+    std::wstring text = windowText(combo);
+    auto selection = static_cast<DWORD>(SendMessageW(combo, CB_GETEDITSEL, 0, 0));
+    auto listed = entries(combo);
+    bool isEntry = std::find(listed.begin(), listed.end(), text) != listed.end();
+    c.check(text.rfind(L"Lo", 0) == 0 && isEntry && LOWORD(selection) == 2 && HIWORD(selection) == text.size(),
+            "\"Lo\" typed into the return type completes to an entry with the rest selected",
+            narrow(text) + " selected " + std::to_string(LOWORD(selection)) + " to " + std::to_string(HIWORD(selection)));
+}
+
 void cancelWritesNothing(Checks& c) {
     Session s(c, editorForBuilders());
     if (!s.created()) return;
@@ -123,6 +141,7 @@ void cancelWritesNothing(Checks& c) {
         c.check(owner && !IsWindowEnabled(owner), "the modal builder disables the editor's window while it is open");
 
         HWND returnType = findControl(dialog, L"cboReturnValueType");
+        typeAhead(c, returnType);
         bool before = IsWindowEnabled(returnType);
         pickEntry(findControl(dialog, L"cboProcType"), L"Sub");
         pump(50);
