@@ -51,7 +51,7 @@ void frmArgument::addControls() {
     pair[0]->Caption = u"By&Val";
     pair[1]->Caption = u"By&Ref";
     pair[1]->Value(1);
-    AddControl(u"lblDefaultValue", ControlKind::Label).Caption = u"&Default Value";
+    AddControl(u"lblDefaultValue", ControlKind::Label).Caption = u"&Default value:";
     AddControl(u"cboDefaultValue", ControlKind::ComboBox);
     AddControl(u"cmdOK", ControlKind::CommandButton).Caption = u"OK";
     AddControl(u"cmdOKAndNew", ControlKind::CommandButton).Caption = u"OK && &New";

@@ -44,7 +44,7 @@ void frmProcedure::addControls() {
     AddControl(u"cboProcType", ControlKind::ComboBox);
     AddControl(u"cboAccessibility", ControlKind::ComboBox);
     AddControl(u"cboStatic", ControlKind::ComboBox);
-    AddControl(u"lblReturnValueType", ControlKind::Label).Caption = u"&Return Type";
+    AddControl(u"lblReturnValueType", ControlKind::Label).Caption = u"&Return type:";
     AddControl(u"cboReturnValueType", ControlKind::ComboBox);
     AddControl(u"cboModule", ControlKind::ComboBox);
     AddControl(u"lstArguments", ControlKind::ListBox);

@@ -18,7 +18,7 @@ namespace {
 
 constexpr wchar_t kDialogProperty[] = L"QuilletDialog";
 constexpr int kFirstControlId = 100;
-constexpr DWORD kDialogStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | WS_CLIPCHILDREN;
+constexpr DWORD kDialogStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME;
 
 bool same(const Str& a, const Str& b) { return dialogs::foldedName(a) == dialogs::foldedName(b); }
 
