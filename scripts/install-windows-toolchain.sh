@@ -1,7 +1,8 @@
 #!/bin/sh
 # Installs what building and testing the Windows add-in needs on Debian:
 # the mingw-w64 cross compilers (posix threads), Wine for 64-bit and 32-bit
-# programs, a virtual X server, NSIS for the installer, and GoogleTest's
+# programs with its fonts (the caption buttons are drawn from Marlett), a
+# virtual X server, NSIS for the installer, and GoogleTest's
 # sources (built with the cross compilers for the Windows tests). Only missing
 # packages are installed; the time taken is printed at the end.
 #
@@ -13,7 +14,7 @@
 set -eu
 
 REQUIRED="g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix mingw-w64-tools
-wine wine64 xvfb xauth nsis libgtest-dev"
+wine wine64 fonts-wine xvfb xauth nsis libgtest-dev"
 OPTIONAL="wine32:i386"
 
 SUDO=""

@@ -3,7 +3,8 @@
 # under Wine (in a virtual X server) against each DLL, in a fresh Wine prefix, and the host
 # contract over the COM host (quillet_com_contract). Prints a summary
 # and exits non-zero when a build or a check fails. With both DLLs built, the installer is made
-# and tested too (scripts/build-installer.sh, scripts/test-installer.sh).
+# and tested too (scripts/build-installer.sh, scripts/test-installer.sh). Pictures of the dialogs
+# are left in build-wine/pictures64 and pictures32 (docs/pictures holds the current ones).
 #
 #   scripts/run-wine-tests.sh [64] [32]      (both when none is named)
 #
@@ -65,13 +66,21 @@ runArch() {
     # stays without one, and no window could be made in it. Windows live in a Wine virtual
     # desktop: without a window manager each top-level window and clipboard change would
     # otherwise wait seconds for X events that never come.
+    # The harness also plays the builders' UI scripts on the real dialogs and takes their pictures
+    # (the caption buttons are drawn from Marlett, which the prefix must hold).
+    pictures=$ROOT/build-wine/pictures$arch
+    rm -rf "$pictures"
+    mkdir -p "$pictures"
     xvfb-run -a sh -c 'wineboot -i >/dev/null 2>&1
+        cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null
         wine reg add "HKCU\Software\Wine\Explorer" /v Desktop /d Default /f >/dev/null 2>&1
         wine reg add "HKCU\Software\Wine\Explorer\Desktops" /v Default /d 1024x768 /f >/dev/null 2>&1
         wineserver -w
-        wine "$1" "$(winepath -w "$2")"' harness \
-        "$dir/tests/wine/quillet_wine_harness.exe" "$dir/Quillet.dll" >"$log" 2>&1
+        wine "$1" "$(winepath -w "$2")" --scripts "$(winepath -w "$3")" --pictures "$(winepath -w "$4")"' harness \
+        "$dir/tests/wine/quillet_wine_harness.exe" "$dir/Quillet.dll" "$ROOT/tests/builders/scripts" "$pictures" \
+        >"$log" 2>&1
     status=$?
+    python3 "$ROOT/scripts/bmp-to-png.py" "$pictures"/*.bmp >/dev/null 2>&1 && rm -f "$pictures"/*.bmp
     wineserver -w 2>/dev/null
     grep -E '^(FAIL  |      )' "$log" || true
     tail -n 1 "$log"

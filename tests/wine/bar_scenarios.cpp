@@ -22,12 +22,6 @@ Str joinLines(const std::vector<Str>& lines) {
     return text;
 }
 
-Str moduleText(MemoryVBE& vbe, const Str& name) {
-    auto module = vbe.activeProject()->VBComponents()->Item(name)->CodeModule();
-    long count = module->CountOfLines();
-    return count ? module->Lines(1, count) : Str();
-}
-
 // Bytes of a text as printable UTF-8, CR and LF shown.
 std::string shown(const Str& text) {
     std::string out;
@@ -48,17 +42,6 @@ std::shared_ptr<MemoryVBE> editorWithProcModule(long line, long col) {
     auto module = project->addComponent(u"basMain", host::vbext_ct_StdModule, kProcModule);
     vbe->openPane(module)->SetSelection(line, col, line, col);
     return vbe;
-}
-
-// Clicks a control as the editor does: through the sinks advised on it.
-bool click(Checks& c, MemoryVBE& vbe, const std::vector<Str>& path) {
-    std::string name;
-    for (const auto& step : path) name += (name.empty() ? "" : " > ") + narrow(step);
-    auto control = controlAt(vbe, path);
-    c.check(control != nullptr, "the bar has " + name);
-    if (!control) return false;
-    control->Execute();
-    return true;
 }
 
 void endSession(Checks& c, Session& s, const std::string& what) {
@@ -141,8 +124,8 @@ void clickIfThenElse(Checks& c) {
     Session s(c, editorWithProcModule(5, 5));
     if (!s.created()) return;
     s.connect(ext_cm_Startup);
-    click(c, s.vbe(), {u"&Quillet"});  // the pop-up opening sets its entries
-    if (click(c, s.vbe(), {u"&Quillet", u"&If", u"Then &Else"})) {
+    clickBar(c, s.vbe(), {u"&Quillet"});  // the pop-up opening sets its entries
+    if (clickBar(c, s.vbe(), {u"&Quillet", u"&If", u"Then &Else"})) {
         Str want = joinLines({u"Option Explicit", u"", u"Public Sub Main()", u"    Dim x As Long", u"    If  Then",
                               u"        ", u"    Else", u"        ", u"    End If", u"End Sub"});
         Str got = moduleText(s.vbe(), u"basMain");
@@ -166,7 +149,7 @@ void clickDeadEntry(Checks& c) {
     if (!s.created()) return;
     s.connect(ext_cm_Startup);
     Str before = moduleText(s.vbe(), u"basMain");
-    if (click(c, s.vbe(), {u"&Quillet", u"&Variable", u"Add Item to User-Defined Data Ty&pe..."})) {
+    if (clickBar(c, s.vbe(), {u"&Quillet", u"&Variable", u"Add Item to User-Defined Data Ty&pe..."})) {
         c.check(moduleText(s.vbe(), u"basMain") == before,
                 "\"Add Item to User-Defined Data Ty&pe...\" does nothing when clicked");
     }

@@ -64,4 +64,20 @@ std::vector<Str> visibleOnBar(hosts::memory::MemoryVBE& vbe) {
     return captions;
 }
 
+bool clickBar(Checks& c, hosts::memory::MemoryVBE& vbe, const std::vector<Str>& captions) {
+    std::string name;
+    for (const auto& step : captions) name += (name.empty() ? "" : " > ") + narrow(step);
+    auto control = controlAt(vbe, captions);
+    c.check(control != nullptr, "the bar has " + name);
+    if (!control) return false;
+    control->Execute();
+    return true;
+}
+
+Str moduleText(hosts::memory::MemoryVBE& vbe, const Str& name) {
+    auto module = vbe.activeProject()->VBComponents()->Item(name)->CodeModule();
+    long count = module->CountOfLines();
+    return count ? module->Lines(1, count) : Str();
+}
+
 }  // namespace quillet::wine

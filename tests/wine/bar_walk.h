@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "addin/command_table.h"
+#include "harness.h"
 #include "hosts/memory/memory_host.h"
 
 namespace quillet::wine {
@@ -34,6 +35,13 @@ std::vector<ExpectedControl> expectedBar();
 // The control reached through these captions from the bar ("&Quillet", "&If", "Then &Else");
 // none when a step is missing.
 host::CommandBarControlPtr controlAt(hosts::memory::MemoryVBE& vbe, const std::vector<Str>& captions);
+
+// Clicks a control as the editor does: through the sinks advised on it. A missing control fails
+// a check and gives false.
+bool clickBar(Checks& c, hosts::memory::MemoryVBE& vbe, const std::vector<Str>& captions);
+
+// The whole text of a module of the active project, lines joined by CRLF.
+Str moduleText(hosts::memory::MemoryVBE& vbe, const Str& name);
 
 // Captions of the visible controls straight on the bar.
 std::vector<Str> visibleOnBar(hosts::memory::MemoryVBE& vbe);

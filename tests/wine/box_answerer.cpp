@@ -1,5 +1,7 @@
 #include "box_answerer.h"
 
+#include <utility>
+
 namespace quillet::wine {
 
 namespace {
@@ -23,6 +25,18 @@ BOOL CALLBACK collectStatic(HWND child, LPARAM lParam) {
     return TRUE;
 }
 
+constexpr int kInputTextId = 101;
+
+// The button an answer names, 0 when it names none.
+int buttonOf(const std::wstring& answer) {
+    const std::pair<const wchar_t*, int> buttons[] = {{L"ok", IDOK},       {L"cancel", IDCANCEL}, {L"yes", IDYES},
+                                                      {L"no", IDNO},       {L"abort", IDABORT},   {L"retry", IDRETRY},
+                                                      {L"ignore", IDIGNORE}};
+    for (const auto& [name, id] : buttons)
+        if (lstrcmpiW(answer.c_str(), name) == 0) return id;
+    return 0;
+}
+
 }  // namespace
 
 BoxAnswerer::BoxAnswerer() {
@@ -42,6 +56,15 @@ void BoxAnswerer::activated(HWND box) {
     EnumChildWindows(box, collectStatic, reinterpret_cast<LPARAM>(&text));
     answered_.push_back(textOf(box) + L": " + text);
     int answer = GetDlgItem(box, IDNO) ? IDNO : GetDlgItem(box, IDCANCEL) ? IDCANCEL : IDOK;
+    if (!queued_.empty()) {
+        answer = buttonOf(queued_.front());
+        // Any other answer is what the user types into an input box (its text field is 101).
+        if (!answer) {
+            SetDlgItemTextW(box, kInputTextId, queued_.front().c_str());
+            answer = IDOK;
+        }
+        queued_.pop_front();
+    }
     PostMessageW(box, WM_COMMAND, MAKEWPARAM(answer, BN_CLICKED), 0);
 }
 

@@ -3,11 +3,15 @@
 // wrapped as COM objects, disconnects it, proves every object it was handed was released, and
 // unregisters it, leaving the registry as it found it.
 //
-//     quillet_wine_harness.exe Z:\path\to\Quillet.dll
+//     quillet_wine_harness.exe Z:\path\to\Quillet.dll [--scripts DIR] [--pictures DIR]
+//     quillet_wine_harness.exe Z:\path\to\Quillet.dll --bench-dialog
 //     quillet_wine_harness.exe C:\...\Quillet.dll --installed
 //
-// With --installed the DLL was registered by the installer: the harness checks that
-// registration and connects the add-in through it, and leaves the registration alone.
+// --scripts plays the builders' UI scripts of DIR on the real dialog windows; --pictures takes
+// pictures of the builders into DIR; --bench-dialog only times the opening of the Procedure
+// Builder on a large project. With --installed the DLL was registered by the installer: the
+// harness checks that registration and connects the add-in through it, and leaves the
+// registration alone.
 
 #include <windows.h>
 
@@ -15,6 +19,7 @@
 
 #include "addin_loader.h"
 #include "box_answerer.h"
+#include "dialog_scenarios.h"
 #include "fake_editor.h"
 #include "harness.h"
 #include "hosts/memory/memory_host.h"
@@ -61,6 +66,25 @@ void checkRegistration(Checks& c) {
     }
 }
 
+struct Options {
+    bool installed = false;
+    bool benchDialog = false;
+    std::wstring scripts;
+    std::wstring pictures;
+};
+
+Options parseOptions(int argc, wchar_t** argv) {
+    Options options;
+    for (int i = 2; i < argc; ++i) {
+        std::wstring arg = argv[i];
+        if (arg == L"--installed") options.installed = true;
+        else if (arg == L"--bench-dialog") options.benchDialog = true;
+        else if (arg == L"--scripts" && i + 1 < argc) options.scripts = argv[++i];
+        else if (arg == L"--pictures" && i + 1 < argc) options.pictures = argv[++i];
+    }
+    return options;
+}
+
 }  // namespace
 
 // The add-in as an installer left it: registered, found and connected.
@@ -84,7 +108,8 @@ int wmain(int argc, wchar_t** argv) {
         AddinDll dll(argv[1]);
         c.check(dll.loaded(), "Quillet.dll loads", narrow(std::wstring(argv[1])));
         if (!dll.loaded()) return 1;
-        if (argc > 2 && std::wstring(argv[2]) == L"--installed") return runInstalled(c);
+        Options options = parseOptions(argc, argv);
+        if (options.installed) return runInstalled(c);
         // A run that stopped half-way leaves its registration behind: start from a clean state.
         if (!readAddins(editorAddinsKey()).empty()) {
             c.note("removing the registration an earlier run left behind");
@@ -103,11 +128,19 @@ int wmain(int argc, wchar_t** argv) {
             run(c);
             c.note(std::string(what) + " scenarios took " + std::to_string((GetTickCount64() - start) / 1000.0) + " s");
         };
-        timed("connection", runConnectionScenarios);
-        timed("timer", runTimerScenarios);
-        timed("bar", runBarScenarios);
-        timed("fault", runFaultScenarios);
-        timed("view", runViewScenarios);
+        if (options.benchDialog) {
+            benchDialogOpen(c, boxes, 9);
+        } else {
+            timed("connection", runConnectionScenarios);
+            timed("timer", runTimerScenarios);
+            timed("bar", runBarScenarios);
+            timed("fault", runFaultScenarios);
+            timed("view", runViewScenarios);
+            ULONGLONG start = GetTickCount64();
+            if (!options.scripts.empty()) runDialogScenarios(c, boxes, options.scripts);
+            if (!options.pictures.empty()) takeDialogPictures(c, boxes, options.pictures);
+            c.note("dialog scenarios took " + std::to_string((GetTickCount64() - start) / 1000.0) + " s");
+        }
 
         CoFreeUnusedLibraries();
         c.check(dll.canUnloadNow() == S_OK, "DllCanUnloadNow once everything is released");

@@ -1,0 +1,114 @@
+// The builders' windows as a user meets them: "Add P&rocedure..." on the bar opens the Procedure
+// Builder's window, and each UI script of the headless builder tests is played again on the real
+// controls, with the module text compared byte for byte at its end.
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+
+#include "bar_walk.h"
+#include "basic/unicode.h"
+#include "dialog_scenarios.h"
+#include "dialogs/ui_player.h"
+#include "session.h"
+#include "window_surface.h"
+
+namespace quillet::wine {
+
+namespace {
+
+// The project the builder scripts expect: basMain with the caret on its blank line 2, and the
+// class module clsOrder.
+std::shared_ptr<MemoryVBE> editorForBuilders() {
+    auto vbe = MemoryVBE::create();
+    auto project = vbe->addProject(u"VBAProject", u"C:\\Work\\Book1.xlsm", u"Excel");
+    auto module = project->addComponent(u"basMain", host::vbext_ct_StdModule,
+                                        {u"Option Explicit", u"", u"Public Sub Existing()", u"End Sub"});
+    project->addComponent(u"clsOrder", host::vbext_ct_ClassModule, {u"Option Explicit"});
+    vbe->openPane(module)->SetSelection(2, 1, 2, 1);
+    return vbe;
+}
+
+// The scripts are written for a Procedure Builder with every option off.
+void builderOptionsOff() {
+    wchar_t appData[MAX_PATH] = {};
+    if (!GetEnvironmentVariableW(L"APPDATA", appData, MAX_PATH)) return;
+    std::wstring folder = std::wstring(appData) + L"\\Quillet";
+    CreateDirectoryW(folder.c_str(), nullptr);
+    std::wstring file = folder + L"\\qltusr.ini";
+    for (const wchar_t* key : {L"Add Header Procedure", L"Add Procedure Constant", L"Add Module Constant Procedure",
+                               L"Add Hourglass Procedure", L"Arguments on Separate Lines", L"Add Return Statement"})
+        WritePrivateProfileStringW(L"Procedure Builder", key, L"0", file.c_str());
+}
+
+std::vector<std::wstring> scriptFiles(const std::wstring& folder) {
+    std::vector<std::wstring> names;
+    WIN32_FIND_DATAW found;
+    HANDLE search = FindFirstFileW((folder + L"\\*.uis").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return names;
+    do names.push_back(found.cFileName);
+    while (FindNextFileW(search, &found));
+    FindClose(search);
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::string fileText(const std::wstring& path) {
+    std::ifstream in(path.c_str(), std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+// Closes whatever dialog a failed script left open, from the top.
+void closeDialogs() {
+    for (int i = 0; i < 5; ++i) {
+        HWND dialog = topDialog();
+        if (!dialog) return;
+        SendMessageW(dialog, WM_CLOSE, 0, 0);
+        settle();
+        if (IsWindow(dialog) && IsWindowVisible(dialog)) DestroyWindow(dialog);
+    }
+}
+
+}  // namespace
+
+void settleAfterConnection() { pump(kFirstTickWait); }
+
+WindowSurface builderSurface(Checks& c, Session& s, BoxAnswerer& boxes, dialogs::UiScriptHooks& hooks) {
+    WindowSurface surface;
+    surface.addOpener(u"frmProcedure", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"Add P&rocedure..."}); });
+    hooks.answer = [&boxes](const Str& answer) { boxes.queue(std::wstring(answer.begin(), answer.end())); };
+    hooks.moduleText = [&s](const Str& module) -> std::optional<Str> {
+        if (!s.vbe().activeProject()->component(module)) return std::nullopt;
+        return moduleText(s.vbe(), module);
+    };
+    return surface;
+}
+
+void playBuilderScript(Checks& c, BoxAnswerer& boxes, const std::wstring& folder, const std::wstring& name) {
+    Session s(c, editorForBuilders());
+    if (!s.created()) return;
+    s.connect(ext_cm_Startup);
+    s.focusActiveWindow();
+    settleAfterConnection();
+    dialogs::UiScriptHooks hooks;
+    WindowSurface surface = builderSurface(c, s, boxes, hooks);
+    auto outcome = dialogs::playUiScript(basic::fromUtf8(fileText(folder + L"\\" + name)), surface, hooks);
+    c.check(outcome.passed(), "the windows play " + narrow(name), narrow(outcome.describe()));
+    c.check(boxes.pending() == 0, narrow(name) + ": every answer was taken by a box");
+    closeDialogs();
+    s.disconnect();
+    s.release();
+    c.check(s.ledger().live == 0, narrow(name) + ": every editor object is released",
+            std::to_string(s.ledger().live) + " held");
+}
+
+void runDialogScenarios(Checks& c, BoxAnswerer& boxes, const std::wstring& scriptsFolder) {
+    builderOptionsOff();
+    auto names = scriptFiles(scriptsFolder);
+    c.check(!names.empty(), "the builders' UI scripts are found", narrow(scriptsFolder));
+    for (const auto& name : names) playBuilderScript(c, boxes, scriptsFolder, name);
+}
+
+}  // namespace quillet::wine

@@ -1,0 +1,34 @@
+#pragma once
+// The builders' windows, driven as a user drives them.
+
+#include <string>
+
+#include "box_answerer.h"
+#include "dialogs/ui_player.h"
+#include "harness.h"
+#include "session.h"
+#include "window_surface.h"
+
+namespace quillet::wine {
+
+// Every UI script of the folder (the headless builder tests' scripts), each in a session of its
+// own, played on the real windows.
+void runDialogScenarios(Checks& c, BoxAnswerer& boxes, const std::wstring& scriptsFolder);
+
+// The Procedure and Argument Builders filled in as in the user guide, pictured as BMP files in
+// the folder ("procedure-builder.bmp", "argument-builder.bmp").
+void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folder);
+
+// Opens and cancels the Procedure Builder on a project of 500 modules and prints the times.
+void benchDialogOpen(Checks& c, BoxAnswerer& boxes, int rounds);
+
+// The add-in learns the project (its host, its scan) at the first tick of its project watch, as
+// it does in the editor before a user's first click: this waits for that tick.
+constexpr DWORD kFirstTickWait = 800;
+void settleAfterConnection();
+
+// A surface whose "frmProcedure" is opened by the bar's "Add P&rocedure...", whose answers go to
+// the box answerer and whose modules are the session's.
+WindowSurface builderSurface(Checks& c, Session& s, BoxAnswerer& boxes, dialogs::UiScriptHooks& hooks);
+
+}  // namespace quillet::wine

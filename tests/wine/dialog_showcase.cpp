@@ -1,0 +1,113 @@
+// Pictures of the builders' windows in a typical state, for the user guide, and the time the
+// Procedure Builder takes to open on a large project.
+
+#include <algorithm>
+#include <vector>
+
+#include "bar_walk.h"
+#include "dialog_scenarios.h"
+#include "screenshot.h"
+
+namespace quillet::wine {
+
+namespace {
+
+std::shared_ptr<MemoryVBE> editorWithModules(int modules, int linesEach) {
+    auto vbe = MemoryVBE::create();
+    auto project = vbe->addProject(u"VBAProject", u"C:\\Work\\Orders.xlsm", u"Excel");
+    std::shared_ptr<hosts::memory::MemoryComponent> first;
+    for (int m = 1; m <= modules; ++m) {
+        std::string digits = std::to_string(m);
+        Str name = u"basModule" + Str(digits.begin(), digits.end());
+        std::vector<Str> lines = {u"Option Explicit", u""};
+        for (int p = 0; static_cast<int>(lines.size()) + 4 <= linesEach; ++p) {
+            std::string number = std::to_string(p);
+            lines.push_back(u"Public Function Value" + Str(number.begin(), number.end()) + u"(ByVal lngIndex As Long) As Long");
+            lines.push_back(u"    Value" + Str(number.begin(), number.end()) + u" = lngIndex * 2");
+            lines.push_back(u"End Function");
+            lines.push_back(u"");
+        }
+        auto component = project->addComponent(name, host::vbext_ct_StdModule, lines);
+        if (!first) first = component;
+    }
+    vbe->openPane(first)->SetSelection(2, 1, 2, 1);
+    return vbe;
+}
+
+void picture(Checks& c, const std::wstring& folder, const Str& form, const wchar_t* file) {
+    HWND dialog = findDialog(form);
+    bool saved = dialog && saveWindowPicture(dialog, folder + L"\\" + file);
+    c.check(saved, "a picture of " + narrow(form) + " is taken", narrow(std::wstring(file)));
+}
+
+double milliseconds(LARGE_INTEGER from, LARGE_INTEGER to) {
+    LARGE_INTEGER frequency;
+    QueryPerformanceFrequency(&frequency);
+    return static_cast<double>(to.QuadPart - from.QuadPart) * 1000.0 / static_cast<double>(frequency.QuadPart);
+}
+
+}  // namespace
+
+void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folder) {
+    Session s(c, editorWithModules(3, 12));
+    if (!s.created()) return;
+    s.connect(ext_cm_Startup);
+    s.focusActiveWindow();
+    // A first start writes the default files: give the project watch's first tick more room.
+    pump(2 * kFirstTickWait);
+    dialogs::UiScriptHooks hooks;
+    WindowSurface surface = builderSurface(c, s, boxes, hooks);
+    auto outcome = dialogs::playUiScript(u"open frmProcedure\n"
+                                         u"set txtName CustomerName\n"
+                                         u"expect chkAddHourglass enabled true\n"
+                                         u"select cboAccessibility Public\n"
+                                         u"select cboReturnValueType String\n"
+                                         u"set txtDescription Gives the name of a customer by its number.\n"
+                                         u"click cmdNewArg\n"
+                                         u"select cboDataType Long\n"
+                                         u"check optByVal(0) 1\n"
+                                         u"set txtName lngCustomerID\n"
+                                         u"expect txtName text lngCustomerID\n",
+                                         surface, hooks);
+    c.check(outcome.passed(), "the builders are filled for their pictures", narrow(outcome.describe()));
+    picture(c, folder, u"frmArgument", L"argument-builder.bmp");
+    outcome = dialogs::playUiScript(u"click cmdOK\n", surface, hooks);
+    c.check(outcome.passed(), "the argument is added for the picture", narrow(outcome.describe()));
+    picture(c, folder, u"frmProcedure", L"procedure-builder.bmp");
+    dialogs::playUiScript(u"click cmdCancel\n", surface, hooks);
+    s.disconnect();
+    s.release();
+}
+
+void benchDialogOpen(Checks& c, BoxAnswerer& boxes, int rounds) {
+    Session s(c, editorWithModules(500, 100));
+    if (!s.created()) return;
+    s.connect(ext_cm_Startup);
+    s.focusActiveWindow();
+    settleAfterConnection();
+    dialogs::UiScriptHooks hooks;
+    WindowSurface surface = builderSurface(c, s, boxes, hooks);
+    std::vector<double> times;
+    for (int i = 0; i < rounds; ++i) {
+        LARGE_INTEGER start, end;
+        QueryPerformanceCounter(&start);
+        clickBar(c, s.vbe(), {u"Add P&rocedure..."});
+        HWND dialog = findDialog(u"frmProcedure");
+        if (dialog) UpdateWindow(dialog);
+        QueryPerformanceCounter(&end);
+        if (!dialog) break;
+        times.push_back(milliseconds(start, end));
+        surface.click(u"cmdCancel");
+    }
+    c.check(times.size() == static_cast<size_t>(rounds), "the Procedure Builder opens each time on 500 modules");
+    if (times.empty()) return;
+    std::sort(times.begin(), times.end());
+    char line[160];
+    std::snprintf(line, sizeof line, "BENCH procedure builder open, 500 modules x 100 lines: min %.2f ms, median %.2f ms, max %.2f ms (%d runs)",
+                  times.front(), times[times.size() / 2], times.back(), rounds);
+    c.note(line);
+    s.disconnect();
+    s.release();
+}
+
+}  // namespace quillet::wine

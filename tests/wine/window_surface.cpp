@@ -1,0 +1,251 @@
+#include "window_surface.h"
+
+#include "dialog_finder.h"
+
+#include <commctrl.h>
+
+#include <vector>
+
+#include "basic/strings.h"
+#include "basic/vb_error.h"
+
+namespace quillet::wine {
+
+using dialogs::ControlKind;
+using dialogs::ControlSnapshot;
+
+namespace {
+
+std::wstring wide(const Str& text) { return std::wstring(text.begin(), text.end()); }
+Str narrowed(const std::wstring& text) { return Str(text.begin(), text.end()); }
+
+bool sameName(const Str& a, const Str& b) { return basic::StrComp(a, b, basic::Compare::Text) == 0; }
+
+Str windowText(HWND window) { return narrowed(finder::windowText(window)); }
+
+using finder::className;
+
+LONG_PTR styleOf(HWND window) { return GetWindowLongPtrW(window, GWL_STYLE); }
+
+ControlKind kindOf(HWND window) {
+    std::wstring cls = className(window);
+    if (lstrcmpiW(cls.c_str(), L"Edit") == 0) return ControlKind::TextBox;
+    if (lstrcmpiW(cls.c_str(), L"ComboBox") == 0) return ControlKind::ComboBox;
+    if (lstrcmpiW(cls.c_str(), L"ListBox") == 0) return ControlKind::ListBox;
+    if (lstrcmpiW(cls.c_str(), L"Static") == 0) return ControlKind::Label;
+    switch (styleOf(window) & BS_TYPEMASK) {
+        case BS_CHECKBOX: case BS_AUTOCHECKBOX: case BS_3STATE: case BS_AUTO3STATE: return ControlKind::CheckBox;
+        case BS_RADIOBUTTON: case BS_AUTORADIOBUTTON: return ControlKind::OptionButton;
+        case BS_GROUPBOX: return ControlKind::Frame;
+        default: return ControlKind::CommandButton;
+    }
+}
+
+struct ListMessages {
+    UINT count, text, textLength, data, current, setCurrent;
+    WORD changed;
+};
+
+const ListMessages kComboMessages{CB_GETCOUNT, CB_GETLBTEXT, CB_GETLBTEXTLEN, CB_GETITEMDATA, CB_GETCURSEL, CB_SETCURSEL, CBN_SELCHANGE};
+const ListMessages kListMessages{LB_GETCOUNT, LB_GETTEXT, LB_GETTEXTLEN, LB_GETITEMDATA, LB_GETCURSEL, LB_SETCURSEL, LBN_SELCHANGE};
+
+const ListMessages& listMessages(ControlKind kind) { return kind == ControlKind::ComboBox ? kComboMessages : kListMessages; }
+
+std::vector<dialogs::ListEntry> entriesOf(HWND list, const ListMessages& m) {
+    std::vector<dialogs::ListEntry> entries;
+    LRESULT count = SendMessageW(list, m.count, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+        LRESULT length = SendMessageW(list, m.textLength, static_cast<WPARAM>(i), 0);
+        std::wstring text(static_cast<size_t>(length < 0 ? 0 : length) + 1, L'\0');
+        SendMessageW(list, m.text, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text.data()));
+        text.resize(static_cast<size_t>(length < 0 ? 0 : length));
+        long data = static_cast<long>(SendMessageW(list, m.data, static_cast<WPARAM>(i), 0));
+        entries.push_back({narrowed(text), data});
+    }
+    return entries;
+}
+
+// The tool tip text registered for a control, "" when none.
+Str toolTipOf(HWND dialog, HWND control) {
+    Str found;
+    struct Search {
+        HWND dialog, control;
+        Str* found;
+    } search{dialog, control, &found};
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM lParam) -> BOOL {
+            auto& s = *reinterpret_cast<Search*>(lParam);
+            if (lstrcmpiW(className(window).c_str(), TOOLTIPS_CLASSW) != 0) return TRUE;
+            wchar_t text[512] = {};
+            TTTOOLINFOW info{};
+            info.cbSize = sizeof info;
+            info.hwnd = s.dialog;
+            info.uId = reinterpret_cast<UINT_PTR>(s.control);
+            info.lpszText = text;
+            if (SendMessageW(window, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&info)) && text[0]) {
+                *s.found = narrowed(text);
+                return FALSE;
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return found;
+}
+
+void notifyParent(HWND control, WORD code) {
+    HWND parent = GetParent(control);
+    SendMessageW(parent, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), code), reinterpret_cast<LPARAM>(control));
+}
+
+std::vector<HWND> threadDialogs() {
+    std::vector<HWND> dialogs;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM lParam) -> BOOL {
+            if (IsWindowVisible(window) && !finder::quilletName(window).empty())
+                reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&dialogs));
+    return dialogs;
+}
+
+}  // namespace
+
+HWND findDialog(const Str& formName) { return finder::findDialog(wide(formName)); }
+
+HWND findControl(HWND dialog, const Str& controlName) { return finder::findControl(dialog, wide(controlName)); }
+
+HWND topDialog() {
+    std::vector<HWND> dialogs = threadDialogs();
+    for (HWND candidate : dialogs) {
+        bool ownsAnother = false;
+        for (HWND other : dialogs) ownsAnother = ownsAnother || GetWindow(other, GW_OWNER) == candidate;
+        if (!ownsAnother) return candidate;
+    }
+    return nullptr;
+}
+
+void settle() {
+    MSG msg;
+    for (int round = 0; round < 3; ++round) {
+        while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
+            TranslateMessage(&msg);
+            DispatchMessageW(&msg);
+        }
+        Sleep(1);
+    }
+}
+
+std::optional<Str> WindowSurface::topForm() {
+    HWND dialog = topDialog();
+    if (!dialog) return std::nullopt;
+    return narrowed(finder::quilletName(dialog));
+}
+
+Str WindowSurface::formCaption() {
+    HWND dialog = topDialog();
+    return dialog ? windowText(dialog) : Str();
+}
+
+bool WindowSurface::formVisible() { return topDialog() != nullptr; }
+
+bool WindowSurface::formOpen(const Str& formName) { return findDialog(formName) != nullptr; }
+
+bool WindowSurface::canOpen(const Str& formName) {
+    for (const auto& [name, opener] : openers_)
+        if (sameName(name, formName)) return true;
+    return false;
+}
+
+std::optional<ControlSnapshot> WindowSurface::control(const Str& name) {
+    HWND dialog = topDialog();
+    HWND window = dialog ? findControl(dialog, name) : nullptr;
+    if (!window) return std::nullopt;
+    ControlSnapshot shot;
+    shot.kind = kindOf(window);
+    shot.enabled = IsWindowEnabled(window) != FALSE;
+    shot.visible = (styleOf(window) & WS_VISIBLE) != 0;
+    shot.toolTip = toolTipOf(dialog, window);
+    switch (shot.kind) {
+        case ControlKind::ComboBox:
+        case ControlKind::ListBox: {
+            const ListMessages& m = listMessages(shot.kind);
+            shot.entries = entriesOf(window, m);
+            shot.listIndex = static_cast<long>(SendMessageW(window, m.current, 0, 0));
+            if (shot.kind == ControlKind::ComboBox) shot.text = windowText(window);
+            else if (shot.listIndex >= 0 && shot.listIndex < static_cast<long>(shot.entries.size()))
+                shot.text = shot.entries[static_cast<size_t>(shot.listIndex)].text;
+            break;
+        }
+        case ControlKind::TextBox: shot.text = windowText(window); break;
+        case ControlKind::CheckBox:
+        case ControlKind::OptionButton:
+            shot.caption = windowText(window);
+            shot.value = static_cast<long>(SendMessageW(window, BM_GETCHECK, 0, 0));
+            break;
+        default: shot.caption = windowText(window); break;
+    }
+    return shot;
+}
+
+HWND WindowSurface::existing(const Str& name) {
+    HWND dialog = topDialog();
+    HWND window = dialog ? findControl(dialog, name) : nullptr;
+    if (!window) throw basic::VbError(730, u"Control '" + name + u"' not found");
+    return window;
+}
+
+void WindowSurface::open(const Str& formName, const std::vector<Str>& args) {
+    for (const auto& [name, opener] : openers_) {
+        if (!sameName(name, formName)) continue;
+        opener(args);
+        settle();
+        return;
+    }
+    throw basic::VbError(5, u"No opener for " + formName);
+}
+
+void WindowSurface::setText(const Str& name, const Str& text) {
+    HWND window = existing(name);
+    std::wstring value = wide(text);
+    if (kindOf(window) == ControlKind::ComboBox) {
+        // Typed over the whole text of the combo box's own edit control, whose EN_CHANGE the
+        // combo box passes on as CBN_EDITCHANGE (WM_SETTEXT there notifies nobody).
+        HWND edit = FindWindowExW(window, nullptr, L"Edit", nullptr);
+        if (!edit) throw basic::VbError(5, u"The list of " + name + u" takes no typed text");
+        SendMessageW(edit, EM_SETSEL, 0, -1);
+        SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(value.c_str()));
+    } else {
+        SendMessageW(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(value.c_str()));
+    }
+    settle();
+}
+
+void WindowSurface::selectEntry(const Str& name, long index) {
+    HWND window = existing(name);
+    const ListMessages& m = listMessages(kindOf(window));
+    SendMessageW(window, m.setCurrent, static_cast<WPARAM>(index), 0);
+    notifyParent(window, m.changed);
+    settle();
+}
+
+void WindowSurface::setValue(const Str& name, long value) {
+    HWND window = existing(name);
+    long now = static_cast<long>(SendMessageW(window, BM_GETCHECK, 0, 0));
+    if (now == value) return;
+    // A click turns a check box over and an option button on, as the user's click does.
+    if (kindOf(window) == ControlKind::OptionButton && value == 0)
+        throw basic::VbError(5, u"An option button is turned off by turning another one on");
+    notifyParent(window, BN_CLICKED);
+    settle();
+}
+
+void WindowSurface::click(const Str& name) {
+    HWND window = existing(name);
+    notifyParent(window, BN_CLICKED);
+    settle();
+}
+
+}  // namespace quillet::wine
