@@ -128,6 +128,36 @@ void typeAhead(Checks& c, HWND combo) {
             narrow(text) + " selected " + std::to_string(LOWORD(selection)) + " to " + std::to_string(HIWORD(selection)));
 }
 
+// The window with the keyboard focus, as a control of the dialog: a combo box for its field.
+HWND focusedControl() {
+    HWND focus = GetFocus();
+    HWND parent = focus ? GetParent(focus) : nullptr;
+    if (parent && lstrcmpiW(className(parent).c_str(), L"ComboBox") == 0) return parent;
+    return focus;
+}
+
+void postKey(HWND window, UINT message, WPARAM key, LPARAM flags) {
+    PostMessageW(window, message, key, flags);
+    PostMessageW(window, message + 1, key, flags | 0xC0000001);
+    pump(100);
+}
+
+// Tab and an access key move the focus through the dialog as its layout orders it; the keys come
+// through the editor's message loop, so they reach the dialog only through the add-in's hook.
+void keysMoveTheFocus(Checks& c, HWND dialog) {
+    SetForegroundWindow(dialog);
+    pump(50);
+    HWND name = findControl(dialog, L"txtName");
+    c.check(focusedControl() == name, "the focus starts in txtName, first in Tab order",
+            narrow(quilletName(focusedControl())));
+    postKey(name, WM_KEYDOWN, VK_TAB, 1);
+    c.check(focusedControl() == findControl(dialog, L"cboProcType"), "Tab moves it to cboProcType",
+            narrow(quilletName(focusedControl())));
+    postKey(GetFocus(), WM_SYSKEYDOWN, 'M', 0x20000001);
+    c.check(focusedControl() == findControl(dialog, L"cboModule"), "Alt+M (the label \"&Module:\") moves it to cboModule",
+            narrow(quilletName(focusedControl())));
+}
+
 void cancelWritesNothing(Checks& c) {
     Session s(c, editorForBuilders());
     if (!s.created()) return;
@@ -140,6 +170,7 @@ void cancelWritesNothing(Checks& c) {
         HWND owner = GetWindow(dialog, GW_OWNER);
         c.check(owner && !IsWindowEnabled(owner), "the modal builder disables the editor's window while it is open");
 
+        keysMoveTheFocus(c, dialog);
         HWND returnType = findControl(dialog, L"cboReturnValueType");
         typeAhead(c, returnType);
         bool before = IsWindowEnabled(returnType);
