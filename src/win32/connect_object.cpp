@@ -1,5 +1,6 @@
 #include "win32/connect_object.h"
 
+#include "addin/err_handler.h"
 #include "addin/frm_timer.h"
 #include "builders/builder_layouts.h"
 #include "hosts/com/com_dispatch.h"
@@ -44,13 +45,18 @@ HRESULT ConnectObject::OnConnection(IDispatch* application, long connectMode, ID
                     std::wstring text(report.begin(), report.end());
                     OutputDebugStringW((L"Quillet: " + text + L"\n").c_str());
                 };
-                // Each form shown on the context's stack gets its window.
+                // Each form shown on the context's stack gets its window. Without them the
+                // add-in still connects.
                 views_.reset();
-                dialogs::LayoutCatalog layouts;
-                builders::AddBuilderLayouts(layouts);
-                views_ = std::make_unique<view::DialogViews>(ctx, module().handle(), std::move(layouts));
+                addin::ignoringErrors([&] {
+                    dialogs::LayoutCatalog layouts;
+                    builders::AddBuilderLayouts(layouts);
+                    views_ = std::make_unique<view::DialogViews>(ctx, module().handle(), std::move(layouts));
+                });
             });
         }
+        // A connection over an earlier one takes its context down first, and its windows before it.
+        if (connect_->connected()) views_.reset();
         if (!timers_) timers_ = std::make_shared<TimerWindow>(module().handle(), [this] { return timerForm(); });
         // A click may change an interval: the timers catch up after each one.
         std::weak_ptr<TimerWindow> timers = timers_;
