@@ -49,7 +49,8 @@ bool DialogWindow::open(HINSTANCE instance, HWND owner, HFONT codeFont) {
     if (!window_) return false;
     setWindowName(window_, form_.Name());
     form_.hWnd = reinterpret_cast<long long>(window_);
-    toolTips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+    // The controls' tool tips: balloons, top-most, their text taken as it is.
+    toolTips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_BALLOON | TTS_NOPREFIX,
                                 CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, window_, nullptr, instance,
                                 nullptr);
     makeControls(codeFont);
