@@ -86,6 +86,11 @@ void endSession(Checks& c, Session& s, const std::string& what) {
     c.check(hr == S_OK && noWindows && s.ledger().live == 0,
             what + ": disconnection leaves no dialog window and releases every object",
             hex(hr) + (noWindows ? "" : ", a window left") + ", " + std::to_string(s.ledger().live) + " held");
+    // The names' atoms went with their windows.
+    bool atomsGone = true;
+    for (const wchar_t* name : {L"frmProcedure", L"frmArgument", L"txtName", L"cmdOK", L"optByVal(1)"})
+        atomsGone = atomsGone && GlobalFindAtomW(name) == 0;
+    c.check(atomsGone, what + ": no window name is left in the global atom table");
 }
 
 void checkControls(Checks& c, HWND dialog) {
