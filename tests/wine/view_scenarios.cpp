@@ -242,8 +242,9 @@ void okWritesTheProcedure(Checks& c) {
         setText(findControl(argument, L"txtName"), L"Count");
         std::wstring typed = windowText(findControl(argument, L"txtName"));
         c.note("the Argument Builder's name after typing \"Count\": " + narrow(typed));
-        pressButton(findControl(argument, L"cmdOK"));
-        c.check(waitGone(argument), "OK closes the Argument Builder");
+        // Enter in the name presses the default button, OK.
+        postKey(findControl(argument, L"txtName"), WM_KEYDOWN, VK_RETURN, 1);
+        c.check(waitGone(argument), "Enter presses OK, which closes the Argument Builder");
         auto listed = entries(findControl(dialog, L"lstArguments"));
         c.check(listed.size() == 1 && listed[0].find(typed) == 0,
                 "the argument typed in the Argument Builder's window is listed by the Procedure Builder's",
