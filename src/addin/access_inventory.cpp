@@ -70,7 +70,7 @@ host::VBProjectPtr databaseProject(Context& ctx, const basic::DispatchPtr& curre
     auto projects = ctx.VBInstance->VBProjects();
     if (projects->Count() == 1) return projects->Item(1);
     Str fullName = basic::CStr(get(currentProject, u"FullName"));
-    for (long i = 1; i <= projects->Count(); ++i) {
+    for (long i = 1, count = projects->Count(); i <= count; ++i) {
         auto project = projects->Item(i);
         Str fileName;
         ignoringErrors([&] { fileName = project->FileName(); });
@@ -82,7 +82,7 @@ host::VBProjectPtr databaseProject(Context& ctx, const basic::DispatchPtr& curre
 host::CodeModulePtr emptiedInventoryModule(const host::VBProjectPtr& project) {
     auto components = project->VBComponents();
     host::VBComponentPtr component;
-    for (long i = 1; i <= components->Count() && !component; ++i)
+    for (long i = 1, count = components->Count(); i <= count && !component; ++i)
         if (StrComp(components->Item(i)->Name(), kInventoryModule, Compare::Text) == 0) component = components->Item(i);
     if (!component) {
         component = components->Add(host::vbext_ct_StdModule);

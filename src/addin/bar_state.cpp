@@ -51,7 +51,7 @@ host::CommandBarPtr quilletBar(Context& ctx) {
 
 template <class F>
 void forEachControl(const host::CommandBarControlsPtr& controls, F&& visit) {
-    for (long i = 1; i <= controls->Count(); ++i) {
+    for (long i = 1, count = controls->Count(); i <= count; ++i) {
         auto control = controls->Item(i);
         visit(*control, control->Caption());
     }
@@ -77,7 +77,7 @@ host::CommandBarControlPtr quilletPopup(Context& ctx) {
     if (!bar) return nullptr;
     const Str caption = LoadResString(popup::Quillet);
     auto controls = bar->Controls();
-    for (long i = 1; i <= controls->Count(); ++i) {
+    for (long i = 1, count = controls->Count(); i <= count; ++i) {
         auto control = controls->Item(i);
         if (control->Type() == host::msoControlPopup && control->Caption() == caption) return control;
     }

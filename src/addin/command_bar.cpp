@@ -61,7 +61,7 @@ host::CommandBarsPtr commandBarsOf(const basic::DispatchPtr& application) {
 
 bool hasControlTagged(const host::CommandBarPtr& bar, const Str& tag) {
     auto controls = bar->Controls();
-    for (long i = 1; i <= controls->Count(); ++i)
+    for (long i = 1, count = controls->Count(); i <= count; ++i)
         if (controls->Item(i)->Tag() == tag) return true;
     return false;
 }

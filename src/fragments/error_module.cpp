@@ -25,7 +25,7 @@ host::VBComponentPtr componentNamed(addin::Context& ctx, const Str& name) {
     auto project = ctx.VBInstance->ActiveVBProject();
     if (!project || name.empty()) return nullptr;
     auto components = project->VBComponents();
-    for (long i = 1; i <= components->Count(); ++i) {
+    for (long i = 1, count = components->Count(); i <= count; ++i) {
         auto component = components->Item(i);
         if (basic::StrComp(component->Name(), name, basic::Compare::Text) == 0) return component;
     }

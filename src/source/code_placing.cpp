@@ -178,7 +178,7 @@ host::VBComponentPtr componentNamed(host::VBE& vbe, const Str& name) {
     auto project = vbe.ActiveVBProject();
     if (!project) return nullptr;
     auto components = project->VBComponents();
-    for (long i = 1; i <= components->Count(); ++i) {
+    for (long i = 1, count = components->Count(); i <= count; ++i) {
         auto component = components->Item(i);
         if (sameText(component->Name(), name)) return component;
     }

@@ -67,7 +67,7 @@ void NameUniqueCheck(host::VBE& vbe, const Str& name, bool blnCheckProject, bool
     if (inLookups(name, collections)) throw used;
     if (!blnCheckComponents || !project) return;
     auto components = project->VBComponents();
-    for (long i = 1; i <= components->Count(); ++i)
+    for (long i = 1, count = components->Count(); i <= count; ++i)
         if (StrComp(components->Item(i)->Name(), name, Compare::Text) == 0) throw used;
 }
 

@@ -51,7 +51,7 @@ long ProjectRefresh(CodeEnv& env, bool blnReferences) {
         }
         auto components = project->VBComponents();
         std::set<Str> present;
-        for (long i = 1; i <= components->Count(); ++i) {
+        for (long i = 1, count = components->Count(); i <= count; ++i) {
             reportedStep(env.report, kWhere, [&] {
                 auto component = components->Item(i);
                 Str name = component->Name();

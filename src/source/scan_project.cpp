@@ -70,7 +70,7 @@ void clsScanProject::init(const Str& strModuleName, bool fReload) {
         }
         recordSignatures_ = true;
         state.ScannedProject = projectName_;
-        for (long i = 1; i <= components->Count(); ++i) {
+        for (long i = 1, count = components->Count(); i <= count; ++i) {
             auto component = components->Item(i);
             if (!component->Name().empty()) ScanModule(component);
         }

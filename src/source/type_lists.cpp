@@ -55,7 +55,7 @@ std::vector<Str> ClassModulesList(host::VBE& vbe) {
     auto project = vbe.ActiveVBProject();
     if (!project) return names;
     auto components = project->VBComponents();
-    for (long i = 1; i <= components->Count(); ++i) {
+    for (long i = 1, count = components->Count(); i <= count; ++i) {
         auto component = components->Item(i);
         if (component->Type() != host::vbext_ct_StdModule) names.push_back(component->Name());
     }
@@ -77,7 +77,7 @@ void qltModulesList(CodeEnv& env, dialogs::Control& combo, long mode, const Str&
         if (auto pane = env.vbe.ActiveCodePane()) active = pane->CodeModule()->Parent()->Name();
         auto project = env.vbe.ActiveVBProject();
         auto components = project ? project->VBComponents() : nullptr;
-        for (long i = 1; components && i <= components->Count(); ++i) {
+        for (long i = 1, count = components ? components->Count() : 0; i <= count; ++i) {
             auto component = components->Item(i);
             Str name = component->Name();
             bool standard = component->Type() == host::vbext_ct_StdModule;
