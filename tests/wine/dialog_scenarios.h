@@ -19,8 +19,8 @@ void runDialogScenarios(Checks& c, BoxAnswerer& boxes, const std::wstring& scrip
 // the folder ("procedure-builder.bmp", "argument-builder.bmp").
 void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folder);
 
-// Opens and cancels the Procedure Builder on a project of 500 modules and prints the times.
-void benchDialogOpen(Checks& c, BoxAnswerer& boxes, int rounds);
+// Opens and cancels the Procedure Builder on a project of that many modules and prints the times.
+void benchDialogOpen(Checks& c, BoxAnswerer& boxes, int rounds, int modules);
 
 // The add-in learns the project (its host, its scan) at the first tick of its project watch, as
 // it does in the editor before a user's first click: this waits for that tick.

@@ -49,6 +49,7 @@ double milliseconds(LARGE_INTEGER from, LARGE_INTEGER to) {
 }  // namespace
 
 void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folder) {
+    CreateDirectoryW(folder.c_str(), nullptr);
     Session s(c, editorWithModules(3, 12));
     if (!s.created()) return;
     s.connect(ext_cm_Startup);
@@ -79,8 +80,8 @@ void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folde
     s.release();
 }
 
-void benchDialogOpen(Checks& c, BoxAnswerer& boxes, int rounds) {
-    Session s(c, editorWithModules(500, 100));
+void benchDialogOpen(Checks& c, BoxAnswerer& boxes, int rounds, int modules) {
+    Session s(c, editorWithModules(modules, 100));
     if (!s.created()) return;
     s.connect(ext_cm_Startup);
     s.focusActiveWindow();
@@ -98,13 +99,18 @@ void benchDialogOpen(Checks& c, BoxAnswerer& boxes, int rounds) {
         if (!dialog) break;
         times.push_back(milliseconds(start, end));
         surface.click(u"cmdCancel");
+        // A user's next click comes after the editor has caught up with the closing (its posted
+        // messages, a tick of the project watch); a click at once would time that work too.
+        pump(600);
     }
-    c.check(times.size() == static_cast<size_t>(rounds), "the Procedure Builder opens each time on 500 modules");
+    c.check(times.size() == static_cast<size_t>(rounds),
+            "the Procedure Builder opens each time on " + std::to_string(modules) + " modules");
     if (times.empty()) return;
     std::sort(times.begin(), times.end());
     char line[160];
-    std::snprintf(line, sizeof line, "BENCH procedure builder open, 500 modules x 100 lines: min %.2f ms, median %.2f ms, max %.2f ms (%d runs)",
-                  times.front(), times[times.size() / 2], times.back(), rounds);
+    std::snprintf(line, sizeof line,
+                  "BENCH procedure builder open, %d modules x 100 lines: min %.2f ms, median %.2f ms, max %.2f ms (%d runs)",
+                  modules, times.front(), times[times.size() / 2], times.back(), rounds);
     c.note(line);
     s.disconnect();
     s.release();

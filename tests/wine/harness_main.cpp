@@ -129,7 +129,8 @@ int wmain(int argc, wchar_t** argv) {
             c.note(std::string(what) + " scenarios took " + std::to_string((GetTickCount64() - start) / 1000.0) + " s");
         };
         if (options.benchDialog) {
-            benchDialogOpen(c, boxes, 9);
+            benchDialogOpen(c, boxes, 9, 5);
+            benchDialogOpen(c, boxes, 9, 500);
         } else {
             timed("connection", runConnectionScenarios);
             timed("timer", runTimerScenarios);

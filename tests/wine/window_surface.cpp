@@ -2,8 +2,6 @@
 
 #include "dialog_finder.h"
 
-#include <commctrl.h>
-
 #include <vector>
 
 #include "basic/strings.h"
@@ -65,49 +63,20 @@ std::vector<dialogs::ListEntry> entriesOf(HWND list, const ListMessages& m) {
     return entries;
 }
 
-// The tool tip text registered for a control, "" when none.
-Str toolTipOf(HWND dialog, HWND control) {
-    Str found;
-    struct Search {
-        HWND dialog, control;
-        Str* found;
-    } search{dialog, control, &found};
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM lParam) -> BOOL {
-            auto& s = *reinterpret_cast<Search*>(lParam);
-            if (lstrcmpiW(className(window).c_str(), TOOLTIPS_CLASSW) != 0) return TRUE;
-            wchar_t text[512] = {};
-            TTTOOLINFOW info{};
-            info.cbSize = sizeof info;
-            info.hwnd = s.dialog;
-            info.uId = reinterpret_cast<UINT_PTR>(s.control);
-            info.lpszText = text;
-            if (SendMessageW(window, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&info)) && text[0]) {
-                *s.found = narrowed(text);
-                return FALSE;
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return found;
-}
-
 void notifyParent(HWND control, WORD code) {
     HWND parent = GetParent(control);
     SendMessageW(parent, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), code), reinterpret_cast<LPARAM>(control));
 }
 
+BOOL CALLBACK collectDialog(HWND window, LPARAM lParam) {
+    if (IsWindowVisible(window) && !finder::quilletName(window).empty())
+        reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(window);
+    return TRUE;
+}
+
 std::vector<HWND> threadDialogs() {
     std::vector<HWND> dialogs;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM lParam) -> BOOL {
-            if (IsWindowVisible(window) && !finder::quilletName(window).empty())
-                reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&dialogs));
+    EnumThreadWindows(GetCurrentThreadId(), collectDialog, reinterpret_cast<LPARAM>(&dialogs));
     return dialogs;
 }
 
@@ -167,7 +136,7 @@ std::optional<ControlSnapshot> WindowSurface::control(const Str& name) {
     shot.kind = kindOf(window);
     shot.enabled = IsWindowEnabled(window) != FALSE;
     shot.visible = (styleOf(window) & WS_VISIBLE) != 0;
-    shot.toolTip = toolTipOf(dialog, window);
+    shot.toolTip = narrowed(finder::toolTip(dialog, window));
     switch (shot.kind) {
         case ControlKind::ComboBox:
         case ControlKind::ListBox: {
