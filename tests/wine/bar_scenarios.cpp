@@ -120,17 +120,25 @@ void barAgainstTable(Checks& c) {
     endSession(c, s, "the table's bar");
 }
 
-void clickIfThenElse(Checks& c) {
+// The click reaches the add-in through the editor's CommandBarEvents, or, in Office, through the
+// button's own Click.
+void clickIfThenElse(Checks& c, bool officeButtons) {
     Session s(c, editorWithProcModule(5, 5));
     if (!s.created()) return;
+    if (officeButtons) s.officeButtons();
     s.connect(ext_cm_Startup);
     clickBar(c, s.vbe(), {u"&Quillet"});  // the pop-up opening sets its entries
+    long buttonClicksBefore = s.ledger().buttonClicks;
     if (clickBar(c, s.vbe(), {u"&Quillet", u"&If", u"Then &Else"})) {
         Str want = joinLines({u"Option Explicit", u"", u"Public Sub Main()", u"    Dim x As Long", u"    If  Then",
                               u"        ", u"    Else", u"        ", u"    End If", u"End Sub"});
         Str got = moduleText(s.vbe(), u"basMain");
-        c.check(got == want, "\"&Quillet\" > \"&If\" > \"Then &Else\" on a blank line writes the If block",
+        std::string through = officeButtons ? " (Office: the button's own Click)" : "";
+        c.check(got == want, "\"&Quillet\" > \"&If\" > \"Then &Else\" on a blank line writes the If block" + through,
                 shown(got));
+        if (officeButtons)
+            c.check(s.ledger().buttonClicks == buttonClicksBefore + 1, "in Office the button's own Click carried it",
+                    std::to_string(s.ledger().buttonClicks - buttonClicksBefore) + " button clicks");
         if (got != want) {
             c.note(std::to_string(s.ledger().clicks) + " clicks raised");
             c.note("Immediate window: " + narrow(s.immediateText()));
@@ -141,7 +149,7 @@ void clickIfThenElse(Checks& c) {
         c.check(sl == 5 && sc == 8 && el == 5 && ec == 8, "the caret stands in the condition",
                 std::to_string(sl) + ":" + std::to_string(sc));
     }
-    endSession(c, s, "the If click");
+    endSession(c, s, officeButtons ? "the Office button's click" : "the If click");
 }
 
 void clickDeadEntry(Checks& c) {
@@ -235,7 +243,8 @@ void barPosition(Checks& c) {
 
 void runBarScenarios(Checks& c) {
     barAgainstTable(c);
-    clickIfThenElse(c);
+    clickIfThenElse(c, false);
+    clickIfThenElse(c, true);
     clickDeadEntry(c);
     toolbarState(c);
     barPosition(c);

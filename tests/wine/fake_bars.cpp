@@ -14,15 +14,24 @@ ComVariant nothing() { return ComVariant(); }
 // {0002E131-0000-0000-C000-000000000046}: the editor's _dispCommandBarControlEvents.
 constexpr GUID kDiidCommandBarControlEvents = {
     0x0002E131, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+// {000C0351-0000-0000-C000-000000000046}: an Office button's own _CommandBarButtonEvents.
+constexpr GUID kDiidCommandBarButtonEvents = {
+    0x000C0351, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
 
-// The object Events.CommandBarEvents(control) returns: it raises Click(control, handled,
-// CancelDefault) on the sink advised on its one connection point, whenever the memory
-// editor's control is executed.
-class FakeCommandBarEvents : public FakeObject, public IConnectionPointContainer, public IConnectionPoint {
+// A source of a control's Click on the one sink advised on its connection point, raised
+// whenever the memory editor's control is executed: the object Events.CommandBarEvents(control)
+// returns (Click(control, handled, CancelDefault)), or, in Office, the button itself
+// (Click(control, CancelDefault)).
+class FakeClickSource : public FakeObject, public IConnectionPointContainer, public IConnectionPoint {
 public:
-    FakeCommandBarEvents(FakeLedger& l, host::CommandBarEventsPtr events, host::CommandBarControlPtr control)
-        : FakeObject(l, u"CommandBarEvents", events), events_(std::move(events)), control_(std::move(control)) {}
-    ~FakeCommandBarEvents() override { dropSink(); }
+    using EventsOf = std::function<host::CommandBarEventsPtr()>;
+    FakeClickSource(FakeLedger& l, Str typeName, host::CommandBarControlPtr control, std::shared_ptr<void> target,
+                    EventsOf eventsOf, const GUID& diid)
+        : FakeObject(l, std::move(typeName), std::move(target)),
+          control_(std::move(control)),
+          eventsOf_(std::move(eventsOf)),
+          diid_(diid) {}
+    ~FakeClickSource() override { dropSink(); }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override { return FakeObject::QueryInterface(iid, out); }
     ULONG STDMETHODCALLTYPE AddRef() override { return FakeObject::AddRef(); }
@@ -32,14 +41,14 @@ public:
     HRESULT STDMETHODCALLTYPE FindConnectionPoint(REFIID iid, IConnectionPoint** out) override {
         if (!out) return E_POINTER;
         *out = nullptr;
-        if (iid != kDiidCommandBarControlEvents) return CONNECT_E_NOCONNECTION;
+        if (iid != diid_) return CONNECT_E_NOCONNECTION;
         *out = this;
         AddRef();
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetConnectionInterface(IID* iid) override {
         if (!iid) return E_POINTER;
-        *iid = kDiidCommandBarControlEvents;
+        *iid = diid_;
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetConnectionPointContainer(IConnectionPointContainer** out) override {
@@ -52,10 +61,9 @@ public:
         if (!sink || !cookie) return E_POINTER;
         if (sink_) return CONNECT_E_ADVISELIMIT;
         IDispatch* dispatch = nullptr;
-        if (FAILED(sink->QueryInterface(kDiidCommandBarControlEvents, reinterpret_cast<void**>(&dispatch)))) {
-            return CONNECT_E_CANNOTCONNECT;
-        }
+        if (FAILED(sink->QueryInterface(diid_, reinterpret_cast<void**>(&dispatch)))) return CONNECT_E_CANNOTCONNECT;
         sink_ = dispatch;
+        events_ = eventsOf_();
         events_->Connect([this](const host::CommandBarControlPtr& control, bool& handled, bool& cancel) {
             fire(control, handled, cancel);
         });
@@ -79,37 +87,48 @@ protected:
 private:
     void dropSink() {
         if (!sink_) return;
-        events_->Disconnect();
+        if (events_) events_->Disconnect();
+        events_.reset();
         sink_->Release();
         sink_ = nullptr;
     }
 
     void fire(const host::CommandBarControlPtr& control, bool& handled, bool& cancel) {
         if (!sink_) return;
+        bool button = diid_ == kDiidCommandBarButtonEvents;
         IDispatch* sink = sink_;
         sink->AddRef();
         VARIANT_BOOL handledValue = handled ? VARIANT_TRUE : VARIANT_FALSE;
         VARIANT_BOOL cancelValue = cancel ? VARIANT_TRUE : VARIANT_FALSE;
+        // Arguments last to first: CancelDefault, then handled (the editor's events only), then
+        // the control.
         VARIANT args[3];
         for (auto& a : args) VariantInit(&a);
-        args[2].vt = VT_DISPATCH;
-        args[2].pdispVal = fake(ledger(), control ? control : control_);
-        args[1].vt = VT_BOOL | VT_BYREF;
-        args[1].pboolVal = &handledValue;
+        UINT count = button ? 2 : 3;
         args[0].vt = VT_BOOL | VT_BYREF;
         args[0].pboolVal = &cancelValue;
-        DISPPARAMS params{args, nullptr, 3, 0};
+        if (!button) {
+            args[1].vt = VT_BOOL | VT_BYREF;
+            args[1].pboolVal = &handledValue;
+        }
+        VARIANT& first = args[count - 1];
+        first.vt = VT_DISPATCH;
+        first.pdispVal = fake(ledger(), control ? control : control_);
+        DISPPARAMS params{args, nullptr, count, 0};
         ++ledger().clicks;
+        if (button) ++ledger().buttonClicks;
         HRESULT hr = sink->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, nullptr, nullptr, nullptr);
         if (hr != S_OK) ledger().clickResults.push_back(hr);
-        if (args[2].pdispVal) args[2].pdispVal->Release();
+        if (first.pdispVal) first.pdispVal->Release();
         sink->Release();
         handled = handledValue != VARIANT_FALSE;
         cancel = cancelValue != VARIANT_FALSE;
     }
 
-    host::CommandBarEventsPtr events_;
     host::CommandBarControlPtr control_;
+    EventsOf eventsOf_;
+    GUID diid_;
+    host::CommandBarEventsPtr events_;
     IDispatch* sink_ = nullptr;
 };
 
@@ -175,7 +194,14 @@ IDispatch* fake(FakeLedger& l, const host::CommandBarControlsPtr& o) {
 
 IDispatch* fake(FakeLedger& l, const host::CommandBarControlPtr& o) {
     if (!o) return nullptr;
-    auto* f = new FakeObject(l, u"CommandBarControl", o);
+    // In Office a button raises its own Click.
+    FakeObject* f = nullptr;
+    if (l.buttonEvents && o->Type() == host::msoControlButton) {
+        auto eventsOf = [events = l.buttonEvents, o] { return events(o); };
+        f = new FakeClickSource(l, u"CommandBarControl", o, o, eventsOf, kDiidCommandBarButtonEvents);
+    } else {
+        f = new FakeObject(l, u"CommandBarControl", o);
+    }
     f->member(u"Type", [o](const Args&) { return val(o->Type()); });
     f->member(u"Id", [o](const Args&) { return val(o->Id()); });
     f->member(u"Index", [o](const Args&) { return val(o->Index()); });
@@ -233,7 +259,9 @@ IDispatch* fake(FakeLedger& l, const host::EventsPtr& o) {
     auto* f = new FakeObject(l, u"Events", o);
     f->member(u"CommandBarEvents", [&l, o](const Args& a) {
         auto control = targetOf<host::CommandBarControl>(a.asDispatch(0), u"CommandBarControl");
-        return owned(new FakeCommandBarEvents(l, o->CommandBarEvents(control), control));
+        auto events = o->CommandBarEvents(control);
+        return owned(new FakeClickSource(l, u"CommandBarEvents", control, events, [events] { return events; },
+                                         kDiidCommandBarControlEvents));
     });
     return f;
 }

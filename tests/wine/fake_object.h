@@ -39,6 +39,9 @@ struct FakeLedger {
     // handed them over.
     std::map<const void*, hosts::com::ComPtr<IDispatch>> pictures, masks;
     long clicks = 0;                      // Click events raised on the add-in's sinks
+    long buttonClicks = 0;                // of them, raised by an Office button itself
+    // Set, the editor is Office: its buttons raise their own Click through these events.
+    std::function<host::CommandBarEventsPtr(const host::CommandBarControlPtr&)> buttonEvents;
     std::vector<HRESULT> clickResults;    // what each sink's Invoke returned, when not S_OK
 };
 

@@ -54,6 +54,15 @@ Session::~Session() {
     release();
 }
 
+void Session::officeButtons() {
+    std::weak_ptr<MemoryVBE> vbe = vbe_;
+    ledger_.buttonEvents = [vbe](const host::CommandBarControlPtr& control) -> host::CommandBarEventsPtr {
+        auto editor = vbe.lock();
+        if (!editor) throw basic::VbError::standard(basic::err::ObjectNotSet);
+        return editor->Events()->CommandBarEvents(control);
+    };
+}
+
 void Session::focusActiveWindow() {
     if (auto window = vbe_->activeWindow()) {
         if (HWND real = standIns_.of(*window)) ::SetFocus(real);

@@ -53,6 +53,8 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
+    // The editor plays Office's: its buttons raise their own Click (call before connect).
+    void officeButtons();
     // OnConnection, with the keyboard focus in the active window as the user left it; its HRESULT.
     HRESULT connect(long mode = ext_cm_Startup);
     // Puts the keyboard focus on the stand-in of the editor's active window (after a test changed
