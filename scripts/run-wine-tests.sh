@@ -80,7 +80,18 @@ runArch() {
         "$dir/tests/wine/quillet_wine_harness.exe" "$dir/Quillet.dll" "$ROOT/tests/builders/scripts" "$pictures" \
         >"$log" 2>&1
     status=$?
-    python3 "$ROOT/scripts/bmp-to-png.py" "$pictures"/*.bmp >/dev/null 2>&1 && rm -f "$pictures"/*.bmp
+    # The same pictures at 144 DPI (150 %), where the dialogs must grow with the font.
+    if [ "$arch" = 64 ]; then
+        mkdir -p "$pictures/144dpi"
+        xvfb-run -a sh -c 'wine reg add "HKCU\Control Panel\Desktop" /v LogPixels /t REG_DWORD /d 144 /f >/dev/null 2>&1
+            wine reg add "HKCC\Software\Fonts" /v LogPixels /t REG_DWORD /d 144 /f >/dev/null 2>&1
+            wineserver -w
+            wine "$1" "$(winepath -w "$2")" --pictures-only --pictures "$(winepath -w "$3")"' harness \
+            "$dir/tests/wine/quillet_wine_harness.exe" "$dir/Quillet.dll" "$pictures/144dpi" >"$log.144dpi" 2>&1 || status=1
+        grep -E '^FAIL  ' "$log.144dpi" || true
+    fi
+    python3 "$ROOT/scripts/bmp-to-png.py" "$pictures"/*.bmp "$pictures"/144dpi/*.bmp >/dev/null 2>&1 &&
+        rm -f "$pictures"/*.bmp "$pictures"/144dpi/*.bmp
     wineserver -w 2>/dev/null
     grep -E '^(FAIL  |      )' "$log" || true
     tail -n 1 "$log"

@@ -36,8 +36,6 @@ public:
     void InitVariables();
     // Adds the argument to the parent's procedure; False (the dialog stays) when the name is refused.
     bool PressOK();
-    // The control that has the focus ("txtName" after a refused name).
-    Str FocusedControl;
 
 protected:
     void Form_Unload() override;

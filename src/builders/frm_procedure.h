@@ -52,8 +52,6 @@ public:
     bool HasErrorHandler();
     bool IsStatic();
     const Str& ProcedureText() const { return strProcedureText_; }
-    // The control that has the focus ("txtName" after a refused name).
-    Str FocusedControl;
 
 protected:
     void Form_Unload() override;

@@ -72,6 +72,9 @@ public:
     long HelpContextID = 0;
     // What F1 does in the dialog; the view calls it. Empty: F1 does nothing.
     std::function<void()> OnHelpKey;
+    // The control the form asks the keyboard focus for ("txtName" after a refused name); the view
+    // moves the focus there and clears the request.
+    Str FocusedControl;
     // The window that shows the form (set by the view; 0 without one).
     long long hWnd = 0;
 

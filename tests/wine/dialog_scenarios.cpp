@@ -104,11 +104,41 @@ void playBuilderScript(Checks& c, BoxAnswerer& boxes, const std::wstring& folder
             std::to_string(s.ledger().live) + " held");
 }
 
+// A refused name (taken by a procedure of the module) keeps the builder open with the focus back
+// in the name, its text selected for typing over.
+void refusedNameTakesFocus(Checks& c, BoxAnswerer& boxes) {
+    Session s(c, editorForBuilders());
+    if (!s.created()) return;
+    s.connect(ext_cm_Startup);
+    s.focusActiveWindow();
+    settleAfterConnection();
+    dialogs::UiScriptHooks hooks;
+    WindowSurface surface = builderSurface(c, s, boxes, hooks);
+    auto outcome = dialogs::playUiScript(u"open frmProcedure\nset txtName Existing\n", surface, hooks);
+    HWND dialog = findDialog(u"frmProcedure");
+    HWND name = dialog ? findControl(dialog, u"txtName") : nullptr;
+    HWND ok = dialog ? findControl(dialog, u"cmdOK") : nullptr;
+    c.check(outcome.passed() && name && ok, "the Procedure Builder opens with its name box", narrow(outcome.describe()));
+    if (!name || !ok) return;
+    SetFocus(ok);
+    boxes.queue(L"no");
+    surface.click(u"cmdOK");
+    DWORD selStart = 0, selEnd = 0;
+    SendMessageW(name, EM_GETSEL, reinterpret_cast<WPARAM>(&selStart), reinterpret_cast<LPARAM>(&selEnd));
+    c.check(findDialog(u"frmProcedure") && GetFocus() == name && selStart == 0 && selEnd == 8,
+            "a refused name keeps the builder open with the focus and selection in the name",
+            "focus on " + narrow(std::wstring(GetFocus() == ok ? L"cmdOK" : L"another window")));
+    closeDialogs();
+    s.disconnect();
+    s.release();
+}
+
 void runDialogScenarios(Checks& c, BoxAnswerer& boxes, const std::wstring& scriptsFolder) {
     builderOptionsOff();
     auto names = scriptFiles(scriptsFolder);
     c.check(!names.empty(), "the builders' UI scripts are found", narrow(scriptsFolder));
     for (const auto& name : names) playBuilderScript(c, boxes, scriptsFolder, name);
+    refusedNameTakesFocus(c, boxes);
 }
 
 }  // namespace quillet::wine

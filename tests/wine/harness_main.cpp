@@ -4,6 +4,7 @@
 // unregisters it, leaving the registry as it found it.
 //
 //     quillet_wine_harness.exe Z:\path\to\Quillet.dll [--scripts DIR] [--pictures DIR]
+//     quillet_wine_harness.exe Z:\path\to\Quillet.dll --pictures-only --pictures DIR
 //     quillet_wine_harness.exe Z:\path\to\Quillet.dll --bench-dialog
 //     quillet_wine_harness.exe C:\...\Quillet.dll --installed
 //
@@ -69,6 +70,7 @@ void checkRegistration(Checks& c) {
 struct Options {
     bool installed = false;
     bool benchDialog = false;
+    bool picturesOnly = false;
     std::wstring scripts;
     std::wstring pictures;
 };
@@ -79,6 +81,7 @@ Options parseOptions(int argc, wchar_t** argv) {
         std::wstring arg = argv[i];
         if (arg == L"--installed") options.installed = true;
         else if (arg == L"--bench-dialog") options.benchDialog = true;
+        else if (arg == L"--pictures-only") options.picturesOnly = true;
         else if (arg == L"--scripts" && i + 1 < argc) options.scripts = argv[++i];
         else if (arg == L"--pictures" && i + 1 < argc) options.pictures = argv[++i];
     }
@@ -131,6 +134,8 @@ int wmain(int argc, wchar_t** argv) {
         if (options.benchDialog) {
             benchDialogOpen(c, boxes, 9, 5);
             benchDialogOpen(c, boxes, 9, 500);
+        } else if (options.picturesOnly) {
+            takeDialogPictures(c, boxes, options.pictures);
         } else {
             timed("connection", runConnectionScenarios);
             timed("timer", runTimerScenarios);

@@ -122,6 +122,16 @@ void DialogWindow::show() {
     std::wstring now(static_cast<size_t>(length) + 1, L'\0');
     now.resize(static_cast<size_t>(GetWindowTextW(window_, now.data(), length + 1)));
     if (Str(now.begin(), now.end()) != caption) SetWindowTextW(window_, std::wstring(caption.begin(), caption.end()).c_str());
+    focusAsked();
+}
+
+// The focus goes where the form asks for it, with an edit's text selected for typing over.
+void DialogWindow::focusAsked() {
+    if (form_.FocusedControl.empty()) return;
+    ControlBinding* target = binding(form_.FocusedControl);
+    form_.FocusedControl.clear();
+    if (!target || !target->window() || !IsWindowEnabled(target->window())) return;
+    SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(target->window()), TRUE);
 }
 
 void DialogWindow::forward(const Str& control, const std::function<void(dialogs::Control&)>& event) noexcept {

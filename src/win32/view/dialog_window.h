@@ -54,6 +54,7 @@ public:
     static DialogWindow* of(HWND window) noexcept;
 
 private:
+    void focusAsked();
     static INT_PTR CALLBACK dialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
     void command(WORD id, WORD code);
