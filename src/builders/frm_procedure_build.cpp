@@ -180,7 +180,8 @@ void OpenProcedureBuilder(addin::Context& ctx, const std::vector<Str>& args) {
         addin::ProjectRefresh(ctx);
         auto& form = ctx.Forms->Adopt(std::make_unique<frmProcedure>(ctx));
         form.Init(!args.empty() && is(args[0], u"method"));
-        form.Show(dialogs::vbModal);
+        // Modal, except in testing mode, where the add-in's own tests drive it modeless.
+        form.Show(ctx.ShowMode);
     });
 }
 

@@ -30,6 +30,18 @@ TEST_F(ProcedureBuilder, OpensFromTheCommandBarsRoutine) {
     EXPECT_TRUE(ctx->Forms->Top()->IsModal());
 }
 
+TEST_F(ProcedureBuilder, InTestingModeItOpensModeless) {
+    ctx->TestingMode = true;
+    ctx->ShowMode = dialogs::vbModeless;
+    auto& form = open();
+    EXPECT_FALSE(form.IsModal());
+    EXPECT_TRUE(form.Visible);
+    // The Argument Builder stays modal over it.
+    ctx->Forms->Raise([&] { form.Controls(u"cmdNewArg").Click(); });
+    ASSERT_NE(ctx->Forms->Top(), &form);
+    EXPECT_TRUE(ctx->Forms->Top()->IsModal());
+}
+
 TEST_F(ProcedureBuilder, ANewProcedureStartsAsAFunctionWithTheListsFilled) {
     auto& form = open();
     EXPECT_EQ(form.Caption, u"Procedure Builder");
