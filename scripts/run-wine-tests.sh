@@ -90,8 +90,8 @@ runArch() {
             "$dir/tests/wine/quillet_wine_harness.exe" "$dir/Quillet.dll" "$pictures/144dpi" >"$log.144dpi" 2>&1 || status=1
         grep -E '^FAIL  ' "$log.144dpi" || true
     fi
-    python3 "$ROOT/scripts/bmp-to-png.py" "$pictures"/*.bmp "$pictures"/144dpi/*.bmp >/dev/null 2>&1 &&
-        rm -f "$pictures"/*.bmp "$pictures"/144dpi/*.bmp
+    find "$pictures" -name '*.bmp' -exec sh -c 'python3 "$0" "$@" >/dev/null 2>&1 && rm -f "$@"' \
+        "$ROOT/scripts/bmp-to-png.py" {} +
     wineserver -w 2>/dev/null
     grep -E '^(FAIL  |      )' "$log" || true
     tail -n 1 "$log"
