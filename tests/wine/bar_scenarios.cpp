@@ -16,23 +16,6 @@ namespace {
 constexpr DWORD kTickWait = 1500;  // a tick of Timer1 (500 ms), with room for a loaded machine
 constexpr wchar_t kSettingsKey[] = L"Software\\VB and VBA Program Settings\\Quillet\\Quillet";
 
-Str joinLines(const std::vector<Str>& lines) {
-    Str text;
-    for (size_t i = 0; i < lines.size(); ++i) text += (i ? u"\r\n" : u"") + lines[i];
-    return text;
-}
-
-// Bytes of a text as printable UTF-8, CR and LF shown.
-std::string shown(const Str& text) {
-    std::string out;
-    for (char16_t ch : text) {
-        if (ch == u'\r') out += "\\r";
-        else if (ch == u'\n') out += "\\n";
-        else out += narrow(Str(1, ch));
-    }
-    return out;
-}
-
 const std::vector<Str> kProcModule = {u"Option Explicit", u"", u"Public Sub Main()", u"    Dim x As Long", u"    ",
                                       u"End Sub"};
 

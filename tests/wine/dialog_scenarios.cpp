@@ -17,17 +17,6 @@ namespace quillet::wine {
 
 namespace {
 
-// The project the builder scripts expect: basMain with the caret on its blank line 2, and the
-// class module clsOrder.
-std::shared_ptr<MemoryVBE> editorForBuilders() {
-    auto vbe = MemoryVBE::create();
-    auto project = vbe->addProject(u"VBAProject", u"C:\\Work\\Book1.xlsm", u"Excel");
-    auto module = project->addComponent(u"basMain", host::vbext_ct_StdModule,
-                                        {u"Option Explicit", u"", u"Public Sub Existing()", u"End Sub"});
-    project->addComponent(u"clsOrder", host::vbext_ct_ClassModule, {u"Option Explicit"});
-    vbe->openPane(module)->SetSelection(2, 1, 2, 1);
-    return vbe;
-}
 
 // The scripts are written for a Procedure Builder with every option off.
 void builderOptionsOff() {
@@ -73,7 +62,23 @@ void closeDialogs() {
 
 }  // namespace
 
+std::shared_ptr<MemoryVBE> editorForBuilders() {
+    auto vbe = MemoryVBE::create();
+    auto project = vbe->addProject(u"VBAProject", u"C:\\Work\\Book1.xlsm", u"Excel");
+    auto module = project->addComponent(u"basMain", host::vbext_ct_StdModule,
+                                        {u"Option Explicit", u"", u"Public Sub Existing()", u"End Sub"});
+    project->addComponent(u"clsOrder", host::vbext_ct_ClassModule, {u"Option Explicit"});
+    vbe->openPane(module)->SetSelection(2, 1, 2, 1);
+    return vbe;
+}
+
 void settleAfterConnection() { pump(kFirstTickWait); }
+
+void connectForDialogs(Session& s) {
+    s.connect(ext_cm_Startup);
+    s.focusActiveWindow();
+    settleAfterConnection();
+}
 
 WindowSurface builderSurface(Checks& c, Session& s, BoxAnswerer& boxes, dialogs::UiScriptHooks& hooks) {
     WindowSurface surface;
@@ -89,9 +94,7 @@ WindowSurface builderSurface(Checks& c, Session& s, BoxAnswerer& boxes, dialogs:
 void playBuilderScript(Checks& c, BoxAnswerer& boxes, const std::wstring& folder, const std::wstring& name) {
     Session s(c, editorForBuilders());
     if (!s.created()) return;
-    s.connect(ext_cm_Startup);
-    s.focusActiveWindow();
-    settleAfterConnection();
+    connectForDialogs(s);
     dialogs::UiScriptHooks hooks;
     WindowSurface surface = builderSurface(c, s, boxes, hooks);
     auto outcome = dialogs::playUiScript(basic::fromUtf8(fileText(folder + L"\\" + name)), surface, hooks);
@@ -109,9 +112,7 @@ void playBuilderScript(Checks& c, BoxAnswerer& boxes, const std::wstring& folder
 void refusedNameTakesFocus(Checks& c, BoxAnswerer& boxes) {
     Session s(c, editorForBuilders());
     if (!s.created()) return;
-    s.connect(ext_cm_Startup);
-    s.focusActiveWindow();
-    settleAfterConnection();
+    connectForDialogs(s);
     dialogs::UiScriptHooks hooks;
     WindowSurface surface = builderSurface(c, s, boxes, hooks);
     auto outcome = dialogs::playUiScript(u"open frmProcedure\nset txtName Existing\n", surface, hooks);

@@ -22,10 +22,16 @@ void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folde
 // Opens and cancels the Procedure Builder on a project of that many modules and prints the times.
 void benchDialogOpen(Checks& c, BoxAnswerer& boxes, int rounds, int modules);
 
+// The project the builder scripts expect: basMain ("Option Explicit", a blank line 2 where the
+// caret stands, "Public Sub Existing()", "End Sub") and the class module clsOrder.
+std::shared_ptr<MemoryVBE> editorForBuilders();
+
 // The add-in learns the project (its host, its scan) at the first tick of its project watch, as
 // it does in the editor before a user's first click: this waits for that tick.
 constexpr DWORD kFirstTickWait = 800;
 void settleAfterConnection();
+// OnConnection with the focus in the code window, then the first tick.
+void connectForDialogs(Session& s);
 
 // A surface whose "frmProcedure" is opened by the bar's "Add P&rocedure...", whose answers go to
 // the box answerer and whose modules are the session's.

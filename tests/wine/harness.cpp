@@ -20,4 +20,20 @@ std::string hex(long value) {
     return buffer;
 }
 
+std::u16string joinLines(const std::vector<std::u16string>& lines) {
+    std::u16string text;
+    for (size_t i = 0; i < lines.size(); ++i) text += (i ? u"\r\n" : u"") + lines[i];
+    return text;
+}
+
+std::string shown(const std::u16string& text) {
+    std::string out;
+    for (char16_t ch : text) {
+        if (ch == u'\r') out += "\\r";
+        else if (ch == u'\n') out += "\\n";
+        else out += narrow(std::u16string(1, ch));
+    }
+    return out;
+}
+
 }  // namespace quillet::wine

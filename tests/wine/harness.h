@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 namespace quillet::wine {
 
@@ -38,5 +39,9 @@ private:
 std::string narrow(const std::wstring& s);
 std::string narrow(const std::u16string& s);
 std::string hex(long value);
+// Lines joined by CRLF, as a module's text.
+std::u16string joinLines(const std::vector<std::u16string>& lines);
+// A text as printable UTF-8, CR and LF shown as \r and \n.
+std::string shown(const std::u16string& text);
 
 }  // namespace quillet::wine

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "bar_walk.h"
+#include "dialog_scenarios.h"
 #include "dialog_finder.h"
 #include "scenarios.h"
 #include "session.h"
@@ -19,40 +20,7 @@ using namespace finder;
 constexpr DWORD kWindowWait = 3000;
 const std::vector<Str> kModule = {u"Option Explicit", u"", u"Public Sub Existing()", u"End Sub"};
 
-std::shared_ptr<MemoryVBE> editorForBuilders() {
-    auto vbe = MemoryVBE::create();
-    auto project = vbe->addProject(u"VBAProject", u"C:\\Work\\Book1.xlsm", u"Excel");
-    auto module = project->addComponent(u"basMain", host::vbext_ct_StdModule, kModule);
-    vbe->openPane(module)->SetSelection(2, 1, 2, 1);
-    return vbe;
-}
 
-// A bar button clicked as the editor does: through the sinks advised on it.
-bool barClick(Checks& c, MemoryVBE& vbe, const Str& caption) {
-    auto control = controlAt(vbe, {caption});
-    c.check(control != nullptr, "the bar has " + narrow(caption));
-    if (!control) return false;
-    control->Execute();
-    return true;
-}
-
-Str moduleLines(MemoryVBE& vbe, const Str& name) {
-    auto module = vbe.activeProject()->VBComponents()->Item(name)->CodeModule();
-    long count = module->CountOfLines();
-    return count ? module->Lines(1, count) : Str();
-}
-
-Str joined(const std::vector<Str>& lines) {
-    Str text;
-    for (size_t i = 0; i < lines.size(); ++i) text += (i ? u"\r\n" : u"") + lines[i];
-    return text;
-}
-
-std::string shown(const Str& text) {
-    std::string out;
-    for (char16_t ch : text) out += ch == u'\r' ? std::string("\\r") : ch == u'\n' ? std::string("\\n") : narrow(Str(1, ch));
-    return out;
-}
 
 HWND waitForDialog(const std::wstring& form) {
     HWND found = nullptr;
@@ -71,7 +39,7 @@ void setText(HWND control, const std::wstring& text) {
 
 // The Procedure Builder opened by the bar's button; none (and a failed check) when no window came.
 HWND openProcedureBuilder(Checks& c, Session& s) {
-    if (!barClick(c, s.vbe(), u"Add P&rocedure...")) return nullptr;
+    if (!clickBar(c, s.vbe(), {u"Add P&rocedure..."})) return nullptr;
     HWND dialog = waitForDialog(L"frmProcedure");
     c.check(dialog != nullptr, "\"Add P&rocedure...\" opens a window named frmProcedure",
             "Immediate window: " + narrow(s.immediateText()));
@@ -208,8 +176,8 @@ void cancelWritesNothing(Checks& c) {
         c.check(waitGone(dialog) && !IsWindow(dialog), "Cancel closes the Procedure Builder's window");
         c.check(owner && IsWindowEnabled(owner), "the editor's window is enabled again");
     }
-    Str text = moduleLines(s.vbe(), u"basMain");
-    c.check(text == joined(kModule), "Cancel leaves the module as it was", shown(text));
+    Str text = moduleText(s.vbe(), u"basMain");
+    c.check(text == joinLines(kModule), "Cancel leaves the module as it was", shown(text));
     c.check(s.immediateText().empty(), "nothing was reported", narrow(s.immediateText()));
     endSession(c, s, "the cancelled builder");
 }
@@ -254,9 +222,9 @@ void okWritesTheProcedure(Checks& c) {
     pressButton(findControl(dialog, L"cmdOK"));
     c.check(waitGone(dialog), "OK closes the Procedure Builder");
     Str argument(argumentEntry.begin(), argumentEntry.end());
-    Str want = joined({u"Option Explicit", u"Sub DoWork(" + argument + u")", u"    ", u"End Sub", u"",
+    Str want = joinLines({u"Option Explicit", u"Sub DoWork(" + argument + u")", u"    ", u"End Sub", u"",
                        u"Public Sub Existing()", u"End Sub"});
-    Str text = moduleLines(s.vbe(), u"basMain");
+    Str text = moduleText(s.vbe(), u"basMain");
     c.check(text == want, "OK writes the procedure typed into the window, byte for byte", shown(text));
     c.check(s.immediateText().empty(), "nothing was reported", narrow(s.immediateText()));
     endSession(c, s, "the builder's OK");
