@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "bar_walk.h"
+#include "basic/strings.h"
 #include "basic/unicode.h"
 #include "dialog_scenarios.h"
 #include "dialogs/ui_player.h"
@@ -47,6 +48,13 @@ std::string fileText(const std::wstring& path) {
     std::ostringstream text;
     text << in.rdbuf();
     return text.str();
+}
+
+// A module's text with each line's trailing blanks taken off.
+Str withoutTrailingBlanks(const Str& text) {
+    std::vector<Str> lines = basic::Split(text, u"\r\n");
+    for (Str& line : lines) line = basic::RTrim(line);
+    return joinLines(lines);
 }
 
 // Closes whatever dialog a failed script left open, from the top.
@@ -134,12 +142,74 @@ void refusedNameTakesFocus(Checks& c, BoxAnswerer& boxes) {
     s.release();
 }
 
+// A failure injected into each editor call that the Procedure Builder's OK makes: the window
+// procedure lets nothing escape, the module holds its old text or the whole procedure, and the
+// dialog, when it stays, still answers (its Cancel closes it).
+void faultsInTheBuildersOK(Checks& c, BoxAnswerer& boxes) {
+    Session s(c, editorForBuilders());
+    if (!s.created()) return;
+    connectForDialogs(s);
+    dialogs::UiScriptHooks hooks;
+    WindowSurface surface = builderSurface(c, s, boxes, hooks);
+    auto module = s.vbe().activeProject()->component(u"basMain")->CodeModule();
+    const Str before = moduleText(s.vbe(), u"basMain");
+    auto restore = [&] {
+        module->DeleteLines(1, module->CountOfLines());
+        module->InsertLines(1, before);
+    };
+    auto openWithName = [&] {
+        surface.open(u"frmProcedure", {});
+        if (findDialog(u"frmProcedure")) surface.setText(u"txtName", u"Total");
+    };
+    openWithName();
+    long start = s.ledger().calls;
+    surface.click(u"cmdOK");
+    long total = s.ledger().calls - start;
+    const Str after = moduleText(s.vbe(), u"basMain");
+    c.check(after != before && !findDialog(u"frmProcedure"), "the builder's OK writes the procedure and closes");
+    long stride = std::max<long>(1, total / 20);
+    long runs = 0, bad = 0;
+    std::string firstBad;
+    for (long k = 1; k <= total; k += stride) {
+        restore();
+        openWithName();
+        s.ledger().calls = 0;
+        s.ledger().failAt = k;
+        surface.click(u"cmdOK");
+        s.ledger().failAt = 0;
+        // The caret's indent on the body line is typed after the procedure is in: a failure there
+        // leaves the procedure whole with a bare body line.
+        Str text = withoutTrailingBlanks(moduleText(s.vbe(), u"basMain"));
+        bool whole = text == withoutTrailingBlanks(before) || text == withoutTrailingBlanks(after);
+        bool answers = true;
+        if (findDialog(u"frmProcedure")) {
+            surface.click(u"cmdCancel");
+            answers = !findDialog(u"frmProcedure");
+        }
+        ++runs;
+        if ((!whole || !answers) && bad++ == 0) {
+            firstBad = "call " + std::to_string(k) + (whole ? "" : ", code not whole") + (answers ? "" : ", dialog stuck");
+            if (!whole) c.note("the module after the failure: " + shown(text));
+        }
+    }
+    closeDialogs();
+    c.check(runs > 0 && bad == 0,
+            "a failure in any of the " + std::to_string(total) + " editor calls of the builder's OK (" +
+                std::to_string(runs) + " runs) leaves the code whole and the dialog answering",
+            firstBad);
+    s.disconnect();
+    s.release();
+    c.check(s.ledger().live == 0, "after the OK failures every editor object is released",
+            std::to_string(s.ledger().live) + " held");
+}
+
 void runDialogScenarios(Checks& c, BoxAnswerer& boxes, const std::wstring& scriptsFolder) {
     builderOptionsOff();
     auto names = scriptFiles(scriptsFolder);
     c.check(!names.empty(), "the builders' UI scripts are found", narrow(scriptsFolder));
     for (const auto& name : names) playBuilderScript(c, boxes, scriptsFolder, name);
     refusedNameTakesFocus(c, boxes);
+    faultsInTheBuildersOK(c, boxes);
 }
 
 }  // namespace quillet::wine
