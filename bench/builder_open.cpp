@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "../tests/source/basic_generator.h"
+#include "generated_project.h"
 #include "addin/context.h"
 #include "addin/lifecycle.h"
 #include "basic/unicode.h"
@@ -32,17 +32,7 @@ constexpr int kRuns = 9;
 std::shared_ptr<memory::MemoryVBE> generatedEditor() {
     auto vbe = memory::MemoryVBE::create();
     auto project = vbe->addProject(u"Bench", u"C:\\Bench\\Bench.xlsm", u"Excel");
-    testing::BasicGenerator generator(7);
-    std::shared_ptr<memory::MemoryComponent> first;
-    for (int i = 0; i < kModules; ++i) {
-        auto m = generator.module(i, kLinesPerModule);
-        m.lines.resize(kLinesPerModule);
-        std::vector<basic::Str> text;
-        for (const auto& line : m.lines) text.push_back(basic::fromUtf8(line));
-        auto component = project->addComponent(basic::fromUtf8(m.name),
-                                               m.isClass ? host::vbext_ct_ClassModule : host::vbext_ct_StdModule, text);
-        if (!first && !m.isClass) first = component;
-    }
+    auto first = bench::addGeneratedModules(*project, kModules, kLinesPerModule);
     vbe->openPane(first)->SetSelection(1, 1, 1, 1);
     return vbe;
 }

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "../tests/source/basic_generator.h"
+#include "generated_project.h"
 #include "basic/strings.h"
 #include "basic/unicode.h"
 #include "hosts/fault/fault_plan.h"
@@ -53,16 +53,8 @@ struct Bench {
 
     Bench() {
         project = vbe->addProject(u"Bench", u"C:\\Bench\\Bench.xlsm", u"Excel");
-        testing::BasicGenerator generator(7);
-        for (int i = 0; i < kModules; ++i) {
-            auto m = generator.module(i, kLinesPerModule);
-            m.lines.resize(kLinesPerModule);  // exactly 100 lines
-            std::vector<basic::Str> text;
-            for (const auto& line : m.lines) text.push_back(basic::fromUtf8(line));
-            lines += static_cast<long>(text.size());
-            project->addComponent(basic::fromUtf8(m.name), m.isClass ? host::vbext_ct_ClassModule : host::vbext_ct_StdModule,
-                                  text);
-        }
+        bench::addGeneratedModules(*project, kModules, kLinesPerModule);
+        lines = static_cast<long>(kModules) * kLinesPerModule;
     }
 
     source::ScanEnv scanEnv(host::VBE& editor) {
