@@ -123,14 +123,24 @@ std::vector<std::wstring> entries(HWND list) {
     return all;
 }
 
+long itemData(HWND list, long index) {
+    return static_cast<long>(SendMessageW(list, isCombo(list) ? CB_GETITEMDATA : LB_GETITEMDATA, static_cast<WPARAM>(index), 0));
+}
+
+long selectedIndex(HWND list) { return static_cast<long>(SendMessageW(list, isCombo(list) ? CB_GETCURSEL : LB_GETCURSEL, 0, 0)); }
+
+void pickIndex(HWND list, long index) {
+    bool combo = isCombo(list);
+    SendMessageW(list, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    WORD code = combo ? CBN_SELCHANGE : LBN_SELCHANGE;
+    SendMessageW(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), code), reinterpret_cast<LPARAM>(list));
+}
+
 bool pickEntry(HWND list, const std::wstring& entry) {
     auto all = entries(list);
     for (size_t i = 0; i < all.size(); ++i) {
         if (all[i] != entry) continue;
-        bool combo = isCombo(list);
-        SendMessageW(list, combo ? CB_SETCURSEL : LB_SETCURSEL, i, 0);
-        WORD code = combo ? CBN_SELCHANGE : LBN_SELCHANGE;
-        SendMessageW(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), code), reinterpret_cast<LPARAM>(list));
+        pickIndex(list, static_cast<long>(i));
         return true;
     }
     return false;

@@ -31,7 +31,11 @@ std::wstring className(HWND window);
 // its text (with the notification a user's choice sends); false when the entry is not there.
 void pressButton(HWND button);
 bool pickEntry(HWND list, const std::wstring& entry);
-// The entries of a list box or combo box.
+// The entries of a list box or combo box, an entry's ItemData, the selected entry (-1 none).
 std::vector<std::wstring> entries(HWND list);
+long itemData(HWND list, long index);
+long selectedIndex(HWND list);
+// Selects an entry by its index with the notification a user's choice sends.
+void pickIndex(HWND list, long index);
 
 }  // namespace quillet::wine::finder

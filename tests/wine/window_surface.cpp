@@ -39,27 +39,10 @@ ControlKind kindOf(HWND window) {
     }
 }
 
-struct ListMessages {
-    UINT count, text, textLength, data, current, setCurrent;
-    WORD changed;
-};
-
-const ListMessages kComboMessages{CB_GETCOUNT, CB_GETLBTEXT, CB_GETLBTEXTLEN, CB_GETITEMDATA, CB_GETCURSEL, CB_SETCURSEL, CBN_SELCHANGE};
-const ListMessages kListMessages{LB_GETCOUNT, LB_GETTEXT, LB_GETTEXTLEN, LB_GETITEMDATA, LB_GETCURSEL, LB_SETCURSEL, LBN_SELCHANGE};
-
-const ListMessages& listMessages(ControlKind kind) { return kind == ControlKind::ComboBox ? kComboMessages : kListMessages; }
-
-std::vector<dialogs::ListEntry> entriesOf(HWND list, const ListMessages& m) {
+std::vector<dialogs::ListEntry> entriesOf(HWND list) {
     std::vector<dialogs::ListEntry> entries;
-    LRESULT count = SendMessageW(list, m.count, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-        LRESULT length = SendMessageW(list, m.textLength, static_cast<WPARAM>(i), 0);
-        std::wstring text(static_cast<size_t>(length < 0 ? 0 : length) + 1, L'\0');
-        SendMessageW(list, m.text, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text.data()));
-        text.resize(static_cast<size_t>(length < 0 ? 0 : length));
-        long data = static_cast<long>(SendMessageW(list, m.data, static_cast<WPARAM>(i), 0));
-        entries.push_back({narrowed(text), data});
-    }
+    std::vector<std::wstring> texts = finder::entries(list);
+    for (size_t i = 0; i < texts.size(); ++i) entries.push_back({narrowed(texts[i]), finder::itemData(list, static_cast<long>(i))});
     return entries;
 }
 
@@ -140,9 +123,8 @@ std::optional<ControlSnapshot> WindowSurface::control(const Str& name) {
     switch (shot.kind) {
         case ControlKind::ComboBox:
         case ControlKind::ListBox: {
-            const ListMessages& m = listMessages(shot.kind);
-            shot.entries = entriesOf(window, m);
-            shot.listIndex = static_cast<long>(SendMessageW(window, m.current, 0, 0));
+            shot.entries = entriesOf(window);
+            shot.listIndex = finder::selectedIndex(window);
             if (shot.kind == ControlKind::ComboBox) shot.text = windowText(window);
             else if (shot.listIndex >= 0 && shot.listIndex < static_cast<long>(shot.entries.size()))
                 shot.text = shot.entries[static_cast<size_t>(shot.listIndex)].text;
@@ -193,10 +175,7 @@ void WindowSurface::setText(const Str& name, const Str& text) {
 }
 
 void WindowSurface::selectEntry(const Str& name, long index) {
-    HWND window = existing(name);
-    const ListMessages& m = listMessages(kindOf(window));
-    SendMessageW(window, m.setCurrent, static_cast<WPARAM>(index), 0);
-    notifyParent(window, m.changed);
+    finder::pickIndex(existing(name), index);
     settle();
 }
 
