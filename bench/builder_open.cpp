@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "generated_project.h"
-#include "addin/context.h"
+#include "core/context.h"
 #include "addin/lifecycle.h"
 #include "basic/unicode.h"
 #include "hosts/fault/fault_plan.h"
@@ -46,7 +46,7 @@ int main() {
     auto vbe = generatedEditor();
     auto plan = std::make_shared<hosts::fault::FaultPlan>();
     auto counted = hosts::fault::wrapVBE(vbe, plan);
-    addin::Context ctx(counted, std::make_shared<platform::ScriptedPlatform>());
+    core::Context ctx(counted, std::make_shared<platform::ScriptedPlatform>());
     ctx.IniSettings->SettingsFolder = folder.string();
     addin::AddInInitialize(ctx, false);
     addin::ProjectInitialize(ctx, true);

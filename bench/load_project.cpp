@@ -13,7 +13,7 @@
 
 #include <unistd.h>
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "addin/quillet_handle.h"
 #include "hosts/files/file_project.h"
 #include "hosts/memory/code_pane.h"
@@ -94,7 +94,7 @@ int main() {
         for (const auto& component : project->project()->components()) lines += static_cast<long>(component->lines().size());
 
         auto platform = std::make_shared<platform::ScriptedPlatform>();
-        addin::Context ctx(vbe, platform);
+        core::Context ctx(vbe, platform);
         auto module = project->project()->component(u"basModule250");
         vbe->openPane(module)->SetSelection(55, 5, 55, 5);  // the blank line of Procedure5
         vbe->setSelectedComponent(module);

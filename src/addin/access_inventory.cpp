@@ -3,7 +3,8 @@
 
 #include <set>
 
-#include "addin/err_handler.h"
+#include "addin/core_names.h"
+#include "core/err_handler.h"
 #include "addin/project_commands.h"
 #include "basic/strings.h"
 #include "source/char_class.h"

@@ -4,7 +4,8 @@
 
 #include "addin/command_bar.h"
 #include "addin/command_table.h"
-#include "addin/err_handler.h"
+#include "addin/core_names.h"
+#include "core/err_handler.h"
 #include "source/current_proc.h"
 
 namespace quillet::addin {

@@ -3,7 +3,8 @@
 // half second and MenuStateSet when the "&Quillet" pop-up opens; both compare captions exactly
 // and write a property only when its value would change, since each write makes the bar flicker.
 
-#include "addin/context.h"
+#include "addin/core_names.h"
+#include "core/context.h"
 
 namespace quillet::addin {
 

@@ -1,7 +1,8 @@
 #include "addin/block_commands.h"
 
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "addin/core_names.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "basic/strings.h"
 #include "basic/variant.h"
 

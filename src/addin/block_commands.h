@@ -2,7 +2,8 @@
 // The quick commands that need nothing but the text at the caret: single statements, With,
 // If and loop blocks.
 
-#include "addin/context.h"
+#include "addin/core_names.h"
+#include "core/context.h"
 
 namespace quillet::addin {
 

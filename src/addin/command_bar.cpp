@@ -3,7 +3,8 @@
 #include <map>
 
 #include "addin/command_handlers.h"
-#include "addin/err_handler.h"
+#include "addin/core_names.h"
+#include "core/err_handler.h"
 #include "addin/menu_commands.h"
 #include "basic/strings.h"
 #include "basic/unicode.h"

@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "addin/command_table.h"
-#include "addin/context.h"
+#include "addin/core_names.h"
+#include "core/context.h"
 
 namespace quillet::addin {
 

@@ -3,7 +3,8 @@
 #include "addin/bar_state.h"
 #include "addin/command_bar.h"
 #include "addin/command_table.h"
-#include "addin/err_handler.h"
+#include "addin/core_names.h"
+#include "core/err_handler.h"
 #include "addin/quillet_handle.h"
 
 namespace quillet::addin {
@@ -63,11 +64,6 @@ void actionRun(Context& ctx, const CommandRow& row, const host::CommandBarContro
 }
 
 }  // namespace
-
-void RoutineRun(Context& ctx, const Str& name, const Str& argument) {
-    auto it = ctx.routines.find(name);
-    if (it != ctx.routines.end() && it->second) it->second(ctx, argument);
-}
 
 void CommandClick(Context& ctx, const Str& handler, const host::CommandBarControlPtr& control) noexcept {
     const CommandRow* row = rowOfHandler(handler);

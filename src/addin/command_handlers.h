@@ -3,7 +3,8 @@
 // has one CommandBarEvents sink, kept while the add-in is connected, whose Click runs the
 // control's handler under the standard error handler. No exception leaves a click.
 
-#include "addin/context.h"
+#include "addin/core_names.h"
+#include "core/context.h"
 
 namespace quillet::addin {
 
@@ -16,7 +17,6 @@ void CommandEventsConnect(Context& ctx, const host::CommandBarControlPtr& contro
 void CommandClick(Context& ctx, const Str& handler, const host::CommandBarControlPtr& control) noexcept;
 
 // Runs a routine of a later layer by name (a builder by its form name), if one is registered.
-void RoutineRun(Context& ctx, const Str& name, const Str& argument = {});
 
 // The handlers that are called by name elsewhere. mnuhAddControl_Click (used by the Access
 // bar) and mnuhControlAdd_Click do what mnuhQLTAddControl_Click does.

@@ -1,8 +1,9 @@
 #include "addin/connect.h"
 
 #include "addin/command_bar.h"
-#include "addin/err_handler.h"
-#include "addin/frm_timer.h"
+#include "addin/core_names.h"
+#include "core/err_handler.h"
+#include "addin/project_watch.h"
 #include "addin/lifecycle.h"
 #include "basic/strings.h"
 #include "settings/catalogue.h"
@@ -73,7 +74,7 @@ void Connect::bringUp(const host::VBEPtr& application, const basic::DispatchPtr&
     ctx.ImmediateWindowHandle = FindImmediateWindowHandle(ctx);
     AddInInitialize(ctx);
     ctx.CurrentProjectFile.clear();
-    ctx.TimerForm = std::make_unique<frmTimer>(ctx);
+    ctx.TimerForm = TimerFormCreate(ctx);
     host::CommandBarPtr bar;
     guarded(ctx, where, [&] { bar = ToolBarCreate(ctx, ctx.VBInstance->CommandBars(), u""); });
     if (bar) CommandTableCreate(ctx, bar);

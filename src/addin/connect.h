@@ -6,7 +6,8 @@
 #include <functional>
 #include <memory>
 
-#include "addin/context.h"
+#include "addin/core_names.h"
+#include "core/context.h"
 
 namespace quillet::addin {
 

@@ -1,7 +1,8 @@
 #include "addin/lifecycle.h"
 
-#include "addin/err_handler.h"
-#include "addin/frm_timer.h"
+#include "addin/core_names.h"
+#include "core/err_handler.h"
+#include "core/frm_timer.h"
 #include "addin/project_commands.h"
 #include "basic/strings.h"
 #include "settings/code_folders.h"
@@ -13,12 +14,6 @@
 #include "source/scan_project.h"
 
 namespace quillet::addin {
-
-void OutlookStep(Context& ctx) {
-    if (basic::StrComp(ctx.HostName, u"Outlook", basic::Compare::Text) != 0) return;
-    ctx.Platform().CloseWindowOfClass(u"rctrl_renwnd32");
-    ctx.VBInstance->Windows()->Item(1)->SetFocus();
-}
 
 void AddInInitialize(Context& ctx, bool firstStartRun) noexcept {
     const Str where = u"basGlobal.AddInInitialize";

@@ -1,7 +1,8 @@
 #include "addin/menu_commands.h"
 
 #include "addin/command_table.h"
-#include "addin/err_handler.h"
+#include "addin/core_names.h"
+#include "core/err_handler.h"
 #include "basic/strings.h"
 #include "basic/variant.h"
 

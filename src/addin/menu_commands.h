@@ -2,7 +2,8 @@
 // AddMenuCommand: one control of the add-in's bars, with its caption, face, style, tag and
 // tool tip.
 
-#include "addin/context.h"
+#include "addin/core_names.h"
+#include "core/context.h"
 
 namespace quillet::addin {
 

@@ -1,7 +1,8 @@
 #include "addin/procedure_commands.h"
 
-#include "addin/err_handler.h"
-#include "addin/scan_commands.h"
+#include "addin/core_names.h"
+#include "core/err_handler.h"
+#include "core/command_env.h"
 #include "basic/strings.h"
 #include "settings/catalogue.h"
 #include "settings/ini_vars.h"

@@ -5,7 +5,8 @@
 #include <optional>
 #include <vector>
 
-#include "addin/context.h"
+#include "addin/core_names.h"
+#include "core/context.h"
 
 namespace quillet::addin {
 

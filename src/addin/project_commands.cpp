@@ -2,10 +2,11 @@
 
 #include <filesystem>
 
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "addin/core_names.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "addin/procedure_commands.h"
-#include "addin/scan_commands.h"
+#include "core/command_env.h"
 #include "basic/strings.h"
 #include "settings/code_folders.h"
 #include "source/code_placing.h"

@@ -4,7 +4,8 @@
 // object inventory of an Access database. Each does nothing, silently, without a code pane where
 // it needs one, and reports its failures.
 
-#include "addin/context.h"
+#include "addin/core_names.h"
+#include "core/context.h"
 
 namespace quillet::addin {
 

@@ -3,11 +3,12 @@
 #include <functional>
 
 #include "addin/block_commands.h"
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "addin/core_names.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "addin/procedure_commands.h"
 #include "addin/project_commands.h"
-#include "addin/scan_commands.h"
+#include "core/command_env.h"
 #include "basic/strings.h"
 
 namespace quillet::addin {

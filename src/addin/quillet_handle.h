@@ -3,7 +3,8 @@
 // code at the caret of the active code pane. It never throws: failures are reported through
 // HandleError and the command goes on or ends as its description says.
 
-#include "addin/context.h"
+#include "addin/core_names.h"
+#include "core/context.h"
 
 namespace quillet::addin {
 

@@ -4,16 +4,16 @@
 
 namespace quillet::builders {
 
-void RegisterBuilder(addin::Context& ctx, const Str& formName, dialogs::FormStack::Opener opener) {
+void RegisterBuilder(core::Context& ctx, const Str& formName, dialogs::FormStack::Opener opener) {
     ctx.Forms->Register(formName, std::move(opener));
-    ctx.routines[formName] = [formName](addin::Context& context, const Str& argument) {
+    ctx.routines[formName] = [formName](core::Context& context, const Str& argument) {
         std::vector<Str> args;
         if (!argument.empty()) args.push_back(argument);
         context.Forms->Open(formName, args);
     };
 }
 
-void RegisterBuilders(addin::Context& ctx) {
+void RegisterBuilders(core::Context& ctx) {
     // Each builder adds itself here as it comes.
     RegisterBuilder(ctx, u"frmProcedure", [&ctx](const std::vector<Str>& args) { OpenProcedureBuilder(ctx, args); });
 }

@@ -3,16 +3,16 @@
 // script's `open FORM ARG ...` (the context's form stack) and from the command bar's handlers (the
 // context's routines, whose one argument, when not empty, is the opener's only argument).
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "dialogs/form_stack.h"
 
 namespace quillet::builders {
 
 using basic::Str;
 
-void RegisterBuilder(addin::Context& ctx, const Str& formName, dialogs::FormStack::Opener opener);
+void RegisterBuilder(core::Context& ctx, const Str& formName, dialogs::FormStack::Opener opener);
 
 // Registers every builder of the add-in; the connection and the quillet tool call it once.
-void RegisterBuilders(addin::Context& ctx);
+void RegisterBuilders(core::Context& ctx);
 
 }  // namespace quillet::builders

@@ -1,7 +1,7 @@
 #include "builders/frm_argument.h"
 
-#include "addin/err_handler.h"
-#include "addin/scan_commands.h"
+#include "core/err_handler.h"
+#include "core/command_env.h"
 #include "builders/name_answer.h"
 #include "source/literals.h"
 #include "source/name_checks.h"
@@ -31,7 +31,7 @@ bool offersAnyConstant(const Str& type) { return type.empty() || is(type, u"Vari
 
 }  // namespace
 
-frmArgument::frmArgument(addin::Context& ctx) : Form(u"frmArgument"), ctx_(ctx) {
+frmArgument::frmArgument(core::Context& ctx) : Form(u"frmArgument"), ctx_(ctx) {
     Caption = u"Argument Builder";
     addControls();
     hookEvents();
@@ -100,7 +100,7 @@ void frmArgument::hookEvents() {
 }
 
 void frmArgument::guard(const Str& method, const std::function<void()>& statement) {
-    addin::guarded(ctx_, u"frmArgument." + method, statement);
+    core::guarded(ctx_, u"frmArgument." + method, statement);
 }
 
 ProcedureOwner& frmArgument::owner() {

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "dialogs/form.h"
 #include "support/cls_html_help.h"
 #include "generators/cls_procedure.h"
@@ -25,7 +25,7 @@ public:
 
 class frmArgument : public dialogs::Form {
 public:
-    explicit frmArgument(addin::Context& ctx);
+    explicit frmArgument(core::Context& ctx);
 
     // The pair optByVal: True when "By&Val" is on.
     bool chkByVal();
@@ -58,7 +58,7 @@ private:
     void cboDefaultValue_Click();
     void guard(const Str& method, const std::function<void()>& statement);
 
-    addin::Context& ctx_;
+    core::Context& ctx_;
     support::clsHtmlHelpForForm help_;
     std::shared_ptr<source::clsScanModule> scanModule_;
     std::shared_ptr<source::clsScanProc> scanProc_;

@@ -1,7 +1,7 @@
 #include "builders/frm_procedure.h"
 
-#include "addin/err_handler.h"
-#include "addin/scan_commands.h"
+#include "core/err_handler.h"
+#include "core/command_env.h"
 #include "settings/ini_vars.h"
 #include "source/code_placing.h"
 #include "source/error_handler_files.h"
@@ -26,7 +26,7 @@ long checkValue(bool on) { return on ? dialogs::vbChecked : dialogs::vbUnchecked
 
 }  // namespace
 
-frmProcedure::frmProcedure(addin::Context& ctx)
+frmProcedure::frmProcedure(core::Context& ctx)
     : Form(u"frmProcedure"), ctx_(ctx), procedure_(std::make_unique<generators::clsProcedure>(ctx)) {
     Caption = u"Procedure Builder";
     addControls();
@@ -97,14 +97,14 @@ void frmProcedure::hookEvents() {
 }
 
 void frmProcedure::guard(const Str& method, const std::function<void()>& statement) {
-    addin::guarded(ctx_, u"frmProcedure." + method, statement);
+    core::guarded(ctx_, u"frmProcedure." + method, statement);
 }
 
 void frmProcedure::Init(bool mfIsMethod) {
     mfIsMethod_ = mfIsMethod;
     guard(u"Init", [this] { GetOptions(); });
     guard(u"Init", [this] { LoadCombos(); });
-    auto env = addin::codeEnvOf(ctx_);
+    auto env = core::codeEnvOf(ctx_);
     guard(u"Init", [&] { source::DataTypeList(env, Controls(u"cboReturnValueType"), true, {}); });
     auto& module = Controls(u"cboModule");
     guard(u"Init", [&] {
@@ -230,7 +230,7 @@ bool frmProcedure::IsStatic() { return Controls(u"cboStatic").Text() == u"Static
 void frmProcedure::cboModule_Click() {
     if (moduleQuiet_) return;
     AccessibilitySet();
-    auto env = addin::codeEnvOf(ctx_);
+    auto env = core::codeEnvOf(ctx_);
     Str module = basic::Trim(Controls(u"cboModule").Text());
     bool known = source::componentNamed(*ctx_.VBInstance, module) != nullptr;
     bool holds = known && source::ModuleNameConstantAdd(env, module, true);

@@ -32,7 +32,7 @@ void ProcedureCopy(generators::clsProcedure& from, generators::clsProcedure& to)
 
 class frmProcedure : public dialogs::Form, public ProcedureOwner {
 public:
-    explicit frmProcedure(addin::Context& ctx);
+    explicit frmProcedure(core::Context& ctx);
     ~frmProcedure() override;
 
     // Called before the dialog shows.
@@ -80,7 +80,7 @@ private:
     // A check box that remembers its value while it is disabled.
     void stateOf(const Str& box, bool enabled, bool& remembered);
 
-    addin::Context& ctx_;
+    core::Context& ctx_;
     support::clsHtmlHelpForForm help_;
     bool mfIsMethod_ = false;
     std::unique_ptr<generators::clsProcedure> procedure_;
@@ -94,6 +94,6 @@ private:
 
 // Opens the Procedure Builder as the command "Add Procedure" does; an argument "method" opens it
 // in Method Builder mode.
-void OpenProcedureBuilder(addin::Context& ctx, const std::vector<Str>& args);
+void OpenProcedureBuilder(core::Context& ctx, const std::vector<Str>& args);
 
 }  // namespace quillet::builders

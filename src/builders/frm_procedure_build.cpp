@@ -3,8 +3,8 @@
 
 #include <map>
 
-#include "addin/err_handler.h"
-#include "addin/scan_commands.h"
+#include "core/err_handler.h"
+#include "core/command_env.h"
 #include "builders/frm_procedure.h"
 #include "builders/name_answer.h"
 #include "source/code_placing.h"
@@ -111,7 +111,7 @@ bool frmProcedure::PressOk() {
         p.Create(strProcedureText_, ctx_.VBInstance->ActiveVBProject(), AddProcedureToEndOfModule,
                  SetCursorToProcedure);
         if (p.ModuleNameConstant) {
-            auto env = addin::codeEnvOf(ctx_);
+            auto env = core::codeEnvOf(ctx_);
             source::ModuleNameConstantAdd(env, p.ModuleName, false);
         }
     }
@@ -152,7 +152,7 @@ bool frmProcedure::ProcBuild() {
 // The target module: a new one is named and made now, after every other check has passed.
 bool frmProcedure::moduleResolved() {
     auto& p = *procedure_;
-    auto env = addin::codeEnvOf(ctx_);
+    auto env = core::codeEnvOf(ctx_);
     Str m = basic::Trim(Controls(u"cboModule").Text());
     if (m.empty()) {
         // No module named: the procedure goes to the module the user works in.
@@ -175,9 +175,9 @@ bool frmProcedure::moduleResolved() {
     return true;
 }
 
-void OpenProcedureBuilder(addin::Context& ctx, const std::vector<Str>& args) {
-    addin::guarded(ctx, u"frmProcedure.Open", [&] {
-        addin::ProjectRefresh(ctx);
+void OpenProcedureBuilder(core::Context& ctx, const std::vector<Str>& args) {
+    core::guarded(ctx, u"frmProcedure.Open", [&] {
+        core::ProjectRefresh(ctx);
         auto& form = ctx.Forms->Adopt(std::make_unique<frmProcedure>(ctx));
         form.Init(!args.empty() && is(args[0], u"method"));
         // Modal, except in testing mode, where the add-in's own tests drive it modeless.

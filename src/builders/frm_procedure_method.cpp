@@ -1,7 +1,7 @@
 // The Procedure Builder in Method Builder mode: the class the Class Builder builds is the target,
 // a selected method is shown for editing and written back, a new one joins the class's methods.
 
-#include "addin/err_handler.h"
+#include "core/err_handler.h"
 #include "builders/frm_procedure.h"
 #include "source/type_lists.h"
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "addin/version.h"
+#include "core/version.h"
 #include "cli/settings_command.h"
 
 namespace quillet::cli {
@@ -127,8 +127,8 @@ std::string helpText(Verb verb) {
 }
 
 std::string versionText() {
-    return "quillet " + std::to_string(addin::kVersionMajor) + "." + std::to_string(addin::kVersionMinor) + "." +
-           std::to_string(addin::kVersionRevision) + "\n";
+    return "quillet " + std::to_string(core::kVersionMajor) + "." + std::to_string(core::kVersionMinor) + "." +
+           std::to_string(core::kVersionRevision) + "\n";
 }
 
 }  // namespace quillet::cli

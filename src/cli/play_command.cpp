@@ -3,7 +3,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "addin/lifecycle.h"
 #include "basic/strings.h"
 #include "cli/project_session.h"
@@ -59,7 +59,7 @@ int playScript(const ToolOptions& options, std::ostream& out, std::ostream& err)
     }
 
     ProjectSession session = openSession(options);
-    addin::Context ctx(session.vbe, session.platform);
+    core::Context ctx(session.vbe, session.platform);
     startAddin(ctx, options, err);
     dialogs::UiScriptOutcome outcome = dialogs::playUiCommands(commands, *ctx.Forms, hooksOf(session));
     if (!outcome.passed()) {

@@ -53,7 +53,7 @@ ProjectSession openSession(const ToolOptions& options) {
     return session;
 }
 
-void startAddin(addin::Context& ctx, const ToolOptions& options, std::ostream& err) {
+void startAddin(core::Context& ctx, const ToolOptions& options, std::ostream& err) {
     ctx.reportListener = [&err](const Str& message) { err << basic::toUtf8(message) << "\n"; };
     if (options.settings) ctx.IniSettings->SettingsFolder = *options.settings;
     addin::AddInInitialize(ctx, false);

@@ -6,7 +6,7 @@
 #include <memory>
 #include <ostream>
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "cli/options.h"
 #include "hosts/files/file_project.h"
 #include "hosts/memory/vbe.h"
@@ -30,7 +30,7 @@ ProjectSession openSession(const ToolOptions& options);
 
 // What the add-in does at connection, for the tool: reports go to `err`, the settings come from
 // --settings (or the usual folders), then the project is scanned.
-void startAddin(addin::Context& ctx, const ToolOptions& options, std::ostream& err);
+void startAddin(core::Context& ctx, const ToolOptions& options, std::ostream& err);
 
 // --dry-run: prints a unified diff of the changes. Otherwise writes the changed files and prints
 // their names, one a line.

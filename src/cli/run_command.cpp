@@ -2,7 +2,7 @@
 
 #include <iomanip>
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "addin/project_commands.h"
 #include "addin/quillet_handle.h"
 #include "basic/strings.h"
@@ -40,7 +40,7 @@ const char* typeName(long type) {
 
 int runCommand(const ToolOptions& options, std::ostream& out, std::ostream& err) {
     ProjectSession session = openSession(options);
-    addin::Context ctx(session.vbe, session.platform);
+    core::Context ctx(session.vbe, session.platform);
     startAddin(ctx, options, err);
     addin::QuilletHandle(ctx, options.command, options.type);
     finishSession(session, options, out);

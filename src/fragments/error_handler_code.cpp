@@ -22,7 +22,7 @@ void nameAsConstant(Str& text, const Str& name, const Str& constant) {
 
 }  // namespace
 
-void NormalizeErrorHandlerCode(addin::Context& ctx, Str& rstrText, const Str& vstrModule, const Str& vstrProc,
+void NormalizeErrorHandlerCode(core::Context& ctx, Str& rstrText, const Str& vstrModule, const Str& vstrProc,
                                const Str& vstrType, bool fModuleConst, bool fProcConst) {
     Str module = vstrModule, proc = vstrProc, type = vstrType;
     Substitute(ctx, rstrText, module, proc, type);

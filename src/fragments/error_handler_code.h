@@ -1,7 +1,7 @@
 #pragma once
 // An error handler template made ready for one procedure.
 
-#include "addin/context.h"
+#include "core/context.h"
 
 namespace quillet::fragments {
 
@@ -10,7 +10,7 @@ using basic::Str;
 // Substitutes the placeholders for the procedure, then, with fModuleConst and fProcConst, writes
 // the module and procedure names inside strings as the name constants (the settings Module Name
 // Constant and Procedure Name Constant): "basMain.Foo" becomes cstrModule & "." & cstrProcedure.
-void NormalizeErrorHandlerCode(addin::Context& ctx, Str& rstrText, const Str& vstrModule, const Str& vstrProc,
+void NormalizeErrorHandlerCode(core::Context& ctx, Str& rstrText, const Str& vstrModule, const Str& vstrProc,
                                const Str& vstrType, bool fModuleConst, bool fProcConst);
 
 }  // namespace quillet::fragments

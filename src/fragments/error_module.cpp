@@ -2,7 +2,7 @@
 
 #include "fragments/error_module.h"
 
-#include "addin/err_handler.h"
+#include "core/err_handler.h"
 #include "basic/strings.h"
 #include "fragments/placeholders.h"
 #include "settings/catalogue.h"
@@ -15,13 +15,13 @@ namespace quillet::fragments {
 
 namespace {
 
-Str settingText(addin::Context& ctx, long item) {
+Str settingText(core::Context& ctx, long item) {
     const auto& values = ctx.IniSettings->IniItemValue;
     return item >= 0 && item < static_cast<long>(values.size()) ? settings::ValueText(values[item]) : Str();
 }
 
 // The component of that name in the active project, or none.
-host::VBComponentPtr componentNamed(addin::Context& ctx, const Str& name) {
+host::VBComponentPtr componentNamed(core::Context& ctx, const Str& name) {
     auto project = ctx.VBInstance->ActiveVBProject();
     if (!project || name.empty()) return nullptr;
     auto components = project->VBComponents();
@@ -32,7 +32,7 @@ host::VBComponentPtr componentNamed(addin::Context& ctx, const Str& name) {
     return nullptr;
 }
 
-void procedureIndexAdd(addin::Context& ctx, const host::VBComponentPtr& component, const Str& procedure) {
+void procedureIndexAdd(core::Context& ctx, const host::VBComponentPtr& component, const Str& procedure) {
     auto& procs = ctx.Scan.ProjectProcs;
     if (!procs) procs = source::newCollection<source::C4_ProcDef>();
     auto def = std::make_shared<source::C4_ProcDef>();
@@ -41,7 +41,7 @@ void procedureIndexAdd(addin::Context& ctx, const host::VBComponentPtr& componen
     source::addFirstWins(*procs, def, def->Name);
 }
 
-void moduleAdd(addin::Context& ctx) {
+void moduleAdd(core::Context& ctx) {
     auto& settings = *ctx.IniSettings;
     Str module = settingText(ctx, settings::iiErrorHandleModule);
     if (componentNamed(ctx, module)) return;
@@ -76,13 +76,13 @@ void moduleAdd(addin::Context& ctx) {
 
 }  // namespace
 
-void ErrorHandleProcedureCheck(addin::Context& ctx) {
+void ErrorHandleProcedureCheck(core::Context& ctx) {
     auto component = componentNamed(ctx, settingText(ctx, settings::iiErrorHandleModule));
     if (!component || component->Type() != host::vbext_ct_StdModule) ErrorHandleModuleAdd(ctx);
 }
 
-void ErrorHandleModuleAdd(addin::Context& ctx) {
-    addin::guarded(ctx, u"modPlaceholders.ErrorHandleModuleAdd", [&] { moduleAdd(ctx); });
+void ErrorHandleModuleAdd(core::Context& ctx) {
+    core::guarded(ctx, u"modPlaceholders.ErrorHandleModuleAdd", [&] { moduleAdd(ctx); });
 }
 
 }  // namespace quillet::fragments

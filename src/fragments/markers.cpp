@@ -6,8 +6,8 @@
 #include <optional>
 #include <vector>
 
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "basic/strings.h"
 #include "fragments/set_cursor.h"
 #include "settings/catalogue.h"
@@ -109,9 +109,9 @@ void placeAtCaret(host::CodeModule& module, host::CodePane& pane, const Str& tex
                   long endCol) {
     Str current = line <= module.CountOfLines() ? module.Lines(line, 1) : Str();
     if (Trim(current).empty()) {
-        addin::writeAtLine(module, line, text, true);
+        core::writeAtLine(module, line, text, true);
     } else if (InStr(text, kCrLf) > 0) {
-        addin::writeAtLine(module, line + 1, text, false);
+        core::writeAtLine(module, line + 1, text, false);
     } else {
         long from = std::max(col, 1L);
         long to = endLine == line ? std::max(endCol, from) : from;
@@ -125,8 +125,8 @@ void placeAtCaret(host::CodeModule& module, host::CodePane& pane, const Str& tex
 
 }  // namespace
 
-void FragmentToProcedureAdd(addin::Context& ctx, Str& text, source::clsScanProc& scan) {
-    addin::ignoringErrors([&] {
+void FragmentToProcedureAdd(core::Context& ctx, Str& text, source::clsScanProc& scan) {
+    core::ignoringErrors([&] {
         scan.init();
         auto pane = ctx.VBInstance->ActiveCodePane();
         if (!pane || scan.ProcName().empty()) return;
@@ -157,8 +157,8 @@ void FragmentToProcedureAdd(addin::Context& ctx, Str& text, source::clsScanProc&
     });
 }
 
-void FragmentToTextOfProcedureAdd(addin::Context& ctx, Str& text, Str& body, const Str& procType) {
-    addin::ignoringErrors([&] {
+void FragmentToTextOfProcedureAdd(core::Context& ctx, Str& text, Str& body, const Str& procType) {
+    core::ignoringErrors([&] {
         if (text.empty() || body.empty()) return;
         Str code = body;
         long declStart = 0, declEnd = 0, defLines = 0;

@@ -5,7 +5,7 @@
 // A marker that stands at the end of its line takes that line break with it, so that a marker on
 // a line of its own leaves no blank line behind.
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "source/scan_proc.h"
 
 namespace quillet::fragments {
@@ -23,13 +23,13 @@ inline constexpr char16_t kBeforeHandleExitLabelMarker[] = u"<BeforeHandleExitLa
 // line), the rest at the caret (over a blank line, below a line of code when it has several
 // lines, into the line at the caret when it is one line). Then the <cursor> markers go and the
 // caret takes the last one's place. `text` keeps what was left of it at the caret.
-void FragmentToProcedureAdd(addin::Context& ctx, Str& text, source::clsScanProc& scan);
+void FragmentToProcedureAdd(core::Context& ctx, Str& text, source::clsScanProc& scan);
 
 // Merges the template `text` into `body`, the text of a whole procedure (lines ended by CRLF):
 // what stands before <begin_of_bottom> goes behind the declaration area (the "On Error" line
 // included), what stands behind it in front of the exit section. <BeforeHandleExitLabel> puts what
 // follows it in front of the exit label (the setting ExitHandler) when the body has one, else it
 // works as <begin_of_bottom>. <end_of_top> is dropped. An empty template or body changes nothing.
-void FragmentToTextOfProcedureAdd(addin::Context& ctx, Str& text, Str& body, const Str& procType);
+void FragmentToTextOfProcedureAdd(core::Context& ctx, Str& text, Str& body, const Str& procType);
 
 }  // namespace quillet::fragments

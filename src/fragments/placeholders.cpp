@@ -2,8 +2,8 @@
 
 #include "fragments/placeholders.h"
 
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "basic/strings.h"
 #include "fragments/error_module.h"
 #include "settings/catalogue.h"
@@ -22,7 +22,7 @@ namespace {
 constexpr char16_t kCrLf[] = u"\r\n";
 constexpr char16_t kInclude[] = u"{INCLUDE ";
 
-Str settingText(addin::Context& ctx, long item) {
+Str settingText(core::Context& ctx, long item) {
     const auto& values = ctx.IniSettings->IniItemValue;
     return item >= 0 && item < static_cast<long>(values.size()) ? settings::ValueText(values[item]) : Str();
 }
@@ -34,20 +34,20 @@ void replaceAll(Str& text, const Str& placeholder, const Str& value) {
 }
 
 // A file's text; empty when it is missing or cannot be read.
-Str fileText(addin::Context& ctx, const Str& path) {
+Str fileText(core::Context& ctx, const Str& path) {
     if (path.empty()) return {};
     settings::clsFile file(*ctx.IniSettings, path);
     file.Silent(true);
     return file.Contents();
 }
 
-Str activeModuleName(addin::Context& ctx) {
+Str activeModuleName(core::Context& ctx) {
     auto pane = ctx.VBInstance->ActiveCodePane();
     return pane ? pane->CodeModule()->Parent()->Name() : Str();
 }
 
 // "Function", "Property" or "Sub" from the first line of the procedure's body.
-Str procedureTypeOf(addin::Context& ctx, const Str& name, long kind) {
+Str procedureTypeOf(core::Context& ctx, const Str& name, long kind) {
     auto pane = ctx.VBInstance->ActiveCodePane();
     if (!pane || name.empty()) return {};
     auto module = pane->CodeModule();
@@ -55,7 +55,7 @@ Str procedureTypeOf(addin::Context& ctx, const Str& name, long kind) {
     return source::ProcedureTypeGet(name, module->Lines(line, 1));
 }
 
-void substituteSteps(addin::Context& ctx, Str& text, Str& moduleName, Str& procedureName, Str& procedureType) {
+void substituteSteps(core::Context& ctx, Str& text, Str& moduleName, Str& procedureName, Str& procedureType) {
     replaceAll(text, u"{AUTHOR}", settingText(ctx, settings::iiDeveloper));
     replaceAll(text, u"{INITIALS}", settingText(ctx, settings::iiInitials));
     replaceAll(text, u"{COMPANYNAME}", settingText(ctx, settings::iiOrganization));
@@ -99,18 +99,18 @@ bool isLetter(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <
 
 }  // namespace
 
-Str TabStopsReplace(addin::Context& ctx, const Str& text) {
-    Str indent = addin::TabSpaces(ctx);
+Str TabStopsReplace(core::Context& ctx, const Str& text) {
+    Str indent = core::TabSpaces(ctx);
     return indent == u"    " ? text : basic::Replace(text, u"    ", indent);
 }
 
-void Substitute(addin::Context& ctx, Str& text, Str& moduleName, Str& procedureName, Str& procedureType) {
-    addin::guarded(ctx, u"modPlaceholders.Substitute",
+void Substitute(core::Context& ctx, Str& text, Str& moduleName, Str& procedureName, Str& procedureType) {
+    core::guarded(ctx, u"modPlaceholders.Substitute",
                    [&] { substituteSteps(ctx, text, moduleName, procedureName, procedureType); });
 }
 
-void FileSubstitute(addin::Context& ctx, Str& text, Str& moduleName, Str& procedureName, Str& procedureType) {
-    addin::guarded(ctx, u"modPlaceholders.FileSubstitute", [&] {
+void FileSubstitute(core::Context& ctx, Str& text, Str& moduleName, Str& procedureName, Str& procedureType) {
+    core::guarded(ctx, u"modPlaceholders.FileSubstitute", [&] {
         Str root = settings::RootFolder(*ctx.IniSettings);
         for (long at = InStr(1, text, kInclude, Compare::Text); at > 0; at = InStr(at + 1, text, kInclude, Compare::Text)) {
             long start = at + basic::Len(kInclude);
@@ -125,9 +125,9 @@ void FileSubstitute(addin::Context& ctx, Str& text, Str& moduleName, Str& proced
     });
 }
 
-Str ExpandHeader(addin::Context& ctx, long headerKind, const Str& name, const Str& description) {
+Str ExpandHeader(core::Context& ctx, long headerKind, const Str& name, const Str& description) {
     Str result;
-    addin::guarded(ctx, u"modPlaceholders.ExpandHeader", [&] {
+    core::guarded(ctx, u"modPlaceholders.ExpandHeader", [&] {
         auto& settings = *ctx.IniSettings;
         Str path = headerKind == kProcedureHeader ? settings::ProcedureHeaderFile(settings)
                    : headerKind == kModuleHeader  ? settings::ModuleHeaderFile(settings)

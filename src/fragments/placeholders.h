@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "addin/context.h"
+#include "core/context.h"
 
 namespace quillet::fragments {
 
@@ -19,18 +19,18 @@ constexpr long kProcedureHeader = 10005;
 constexpr long kModuleHeader = 10008;
 
 // Every run of four blanks becomes the indent unit (as many blanks as the editor's tab width).
-Str TabStopsReplace(addin::Context& ctx, const Str& text);
+Str TabStopsReplace(core::Context& ctx, const Str& text);
 
 // Replaces the fixed placeholders in place; an empty name is looked up when its placeholder
 // occurs (the active module, the procedure at the caret, its kind) and handed back.
-void Substitute(addin::Context& ctx, Str& text, Str& moduleName, Str& procedureName, Str& procedureType);
+void Substitute(core::Context& ctx, Str& text, Str& moduleName, Str& procedureName, Str& procedureType);
 // Replaces each {INCLUDE path} whose file (below the root folder) has content by that content,
 // itself substituted; a missing or empty file, or an include without "}", stays as it stands.
-void FileSubstitute(addin::Context& ctx, Str& text, Str& moduleName, Str& procedureName, Str& procedureType);
+void FileSubstitute(core::Context& ctx, Str& text, Str& moduleName, Str& procedureName, Str& procedureType);
 
 // The procedure (kProcedureHeader) or module (kModuleHeader) header file, expanded for `name`,
 // with CRLF behind; empty when the file is missing or empty.
-Str ExpandHeader(addin::Context& ctx, long headerKind, const Str& name, const Str& description);
+Str ExpandHeader(core::Context& ctx, long headerKind, const Str& name, const Str& description);
 
 // A free text as comment lines ("'   " in front, CRLF behind), lines over 50 characters wrapped
 // at the first blank from position 50 on.

@@ -7,7 +7,7 @@
 
 namespace quillet::fragments {
 
-void FragmentServicesInstall(addin::Context& ctx) {
+void FragmentServicesInstall(core::Context& ctx) {
     ctx.Fragments.ExpandHeader = ExpandHeader;
     ctx.Fragments.ErrorHandleModuleAdd = ErrorHandleModuleAdd;
     ctx.Fragments.NormalizeErrorHandlerCode = NormalizeErrorHandlerCode;

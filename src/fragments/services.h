@@ -3,10 +3,10 @@
 // Fragments): module headers, the error-handling module, error handler templates and their merge
 // round the procedure at the caret.
 
-#include "addin/context.h"
+#include "core/context.h"
 
 namespace quillet::fragments {
 
-void FragmentServicesInstall(addin::Context& ctx);
+void FragmentServicesInstall(core::Context& ctx);
 
 }  // namespace quillet::fragments

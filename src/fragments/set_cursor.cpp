@@ -2,7 +2,7 @@
 
 #include "fragments/set_cursor.h"
 
-#include "addin/err_handler.h"
+#include "core/err_handler.h"
 #include "basic/strings.h"
 #include "fragments/markers.h"
 
@@ -29,9 +29,9 @@ long removeMarkers(host::CodeModule& module, long line, host::CodePane* pane) {
 
 }  // namespace
 
-long SetCursor(addin::Context& ctx, long line, bool keepSelection, host::CodePanePtr pane) {
+long SetCursor(core::Context& ctx, long line, bool keepSelection, host::CodePanePtr pane) {
     long last = 0;
-    addin::guarded(ctx, u"modPlaceholders.SetCursor", [&] {
+    core::guarded(ctx, u"modPlaceholders.SetCursor", [&] {
         if (!pane) pane = ctx.VBInstance->ActiveCodePane();
         if (!pane) return;
         auto module = pane->CodeModule();
@@ -40,9 +40,9 @@ long SetCursor(addin::Context& ctx, long line, bool keepSelection, host::CodePan
     return last;
 }
 
-long CursorMarkersRemove(addin::Context& ctx, host::CodeModule& module, long line) {
+long CursorMarkersRemove(core::Context& ctx, host::CodeModule& module, long line) {
     long last = 0;
-    addin::guarded(ctx, u"modPlaceholders.SetCursor", [&] { last = removeMarkers(module, line, nullptr); });
+    core::guarded(ctx, u"modPlaceholders.SetCursor", [&] { last = removeMarkers(module, line, nullptr); });
     return last;
 }
 

@@ -4,8 +4,8 @@
 
 #include <vector>
 
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "basic/vb_error.h"
 #include "fragments/error_handler_code.h"
 #include "fragments/markers.h"
@@ -53,12 +53,12 @@ source::colArguments& clsProcedure::Arguments() {
     return *Arguments_;
 }
 
-Str clsProcedure::Indent() { return addin::TabSpaces(*ctx_); }
+Str clsProcedure::Indent() { return core::TabSpaces(*ctx_); }
 
 Str clsProcedure::GenerateCode() {
     if (!ProcContent_.empty()) return ProcContent_;
     Str r;
-    addin::guarded(*ctx_, u"clsProcedure.GenerateCode", [&] {
+    core::guarded(*ctx_, u"clsProcedure.GenerateCode", [&] {
         if (!AccessibleType.empty()) r += AccessibleType + u" ";
         if (IsStatic) r += u"Static ";
         r += ProcType + u" ";
@@ -89,7 +89,7 @@ Str clsProcedure::GenerateCode() {
 
 void clsProcedure::GetArgString(long rIndent, Str& text) {
     text.clear();
-    addin::guarded(*ctx_, u"clsProcedure.GetArgString", [&] {
+    core::guarded(*ctx_, u"clsProcedure.GetArgString", [&] {
         auto ordered = byNumber(Arguments());
         Str list;
         for (size_t i = 0; i < ordered.size(); ++i) {
@@ -118,7 +118,7 @@ void clsProcedure::AddReturnLine(Str& rstrCode) {
 
 void clsProcedure::BuildHourglass(bool fOn, Str& line) {
     line.clear();
-    addin::guarded(*ctx_, u"clsProcedure.BuildHourglass", [&] {
+    core::guarded(*ctx_, u"clsProcedure.BuildHourglass", [&] {
         Str statement = HourglassStatement(ctx_->HostName, fOn);
         line = statement.empty() ? Str(kCrLf) : Indent() + statement + kCrLf;
     });
@@ -143,7 +143,7 @@ void clsProcedure::ArgumentsRenumber(long lngDeletedNumber) {
 
 long clsProcedure::ArgumentsOrderIsBad() {
     long result = 0;
-    addin::guarded(*ctx_, u"clsProcedure.ArgumentsOrderIsBad", [&] {
+    core::guarded(*ctx_, u"clsProcedure.ArgumentsOrderIsBad", [&] {
         auto ordered = byNumber(Arguments());
         bool optional = false;
         for (const auto& argument : ordered) {

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "source/record_collections.h"
 
 namespace quillet::generators {
@@ -15,7 +15,7 @@ using basic::Str;
 
 class clsProcedure {
 public:
-    explicit clsProcedure(addin::Context& ctx) : ctx_(&ctx) {}
+    explicit clsProcedure(core::Context& ctx) : ctx_(&ctx) {}
 
     Str Name;
     Str ID;                // key in colProcedures
@@ -67,7 +67,7 @@ private:
     void CursorPositionSet(const host::VBProjectPtr& objVBProject);
     Str Indent();
 
-    addin::Context* ctx_;
+    core::Context* ctx_;
     Str ProcDefinition_;
     Str ProcContent_;
     std::unique_ptr<source::colArguments> Arguments_;

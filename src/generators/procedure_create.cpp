@@ -1,7 +1,7 @@
 // The procedure model's text into a module, and the caret into its body.
 
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "basic/strings.h"
 #include "fragments/set_cursor.h"
 #include "generators/cls_procedure.h"
@@ -12,7 +12,7 @@ namespace quillet::generators {
 namespace {
 
 // The component of the active pane's module, none without a pane.
-host::VBComponentPtr activeComponent(addin::Context& ctx) {
+host::VBComponentPtr activeComponent(core::Context& ctx) {
     auto pane = ctx.VBInstance->ActiveCodePane();
     return pane ? pane->CodeModule()->Parent() : nullptr;
 }
@@ -26,7 +26,7 @@ long lineNumber(const Str& decimal) {
 
 void clsProcedure::Create(const Str& strCode, const host::VBProjectPtr& objVBProject, bool blnToEndOfModule,
                           bool blnSetCursor) {
-    addin::guarded(*ctx_, u"clsProcedure.Create", [&] {
+    core::guarded(*ctx_, u"clsProcedure.Create", [&] {
         if (strCode.empty() || !objVBProject || objVBProject->VBComponents()->Count() == 0) return;
         auto cm = objVBProject->VBComponents()->Item(ModuleName)->CodeModule();
         if (blnToEndOfModule)
@@ -48,7 +48,7 @@ void clsProcedure::Create(const Str& strCode, const host::VBProjectPtr& objVBPro
 }
 
 void clsProcedure::CursorPositionSet(const host::VBProjectPtr& objVBProject) {
-    addin::guarded(*ctx_, u"clsProcedure.CursorPositionSet", [&] {
+    core::guarded(*ctx_, u"clsProcedure.CursorPositionSet", [&] {
         if (ProcDefinition_.empty()) return;
         auto cm = objVBProject->VBComponents()->Item(ModuleName)->CodeModule();
         auto active = activeComponent(*ctx_);
@@ -69,7 +69,7 @@ void clsProcedure::CursorPositionSet(const host::VBProjectPtr& objVBProject) {
             if (basic::Trim(cm->Lines(n, 1)).empty()) break;
             ++n;
         }
-        Str indent = addin::TabSpaces(*ctx_);
+        Str indent = core::TabSpaces(*ctx_);
         cm->ReplaceLine(n, indent);
         long c = basic::Len(indent) + 1;
         pane->SetSelection(n, c, n, c);

@@ -1,6 +1,6 @@
 #include "support/cls_html_help.h"
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "basic/strings.h"
 
 namespace quillet::support {
@@ -61,9 +61,9 @@ void clsHtmlHelp::CloseAll() {
     platform_.HtmlHelp(0, {}, HtmlHelpCommand::CloseAll, 0);
 }
 
-clsHtmlHelp& basHTMLHelp(addin::Context& ctx) {
+clsHtmlHelp& basHTMLHelp(core::Context& ctx) {
     if (!ctx.HtmlHelpObject) {
-        ctx.HtmlHelpObject = std::make_unique<clsHtmlHelp>(ctx.Platform());
+        ctx.HtmlHelpObject = std::make_shared<clsHtmlHelp>(ctx.Platform());
         ctx.HtmlHelpObject->SetFile(ctx.Platform().AddinFolder() + u"Quillet.chm");
         ctx.HtmlHelpObject->Title = u"Quillet";
     }

@@ -13,7 +13,7 @@
 #include "dialogs/form.h"
 #include "platform/platform.h"
 
-namespace quillet::addin {
+namespace quillet::core {
 class Context;
 }
 
@@ -59,7 +59,7 @@ private:
 };
 
 // The add-in's clsHtmlHelp, made at the first call with "Quillet.chm" in the add-in's folder.
-clsHtmlHelp& basHTMLHelp(addin::Context& ctx);
+clsHtmlHelp& basHTMLHelp(core::Context& ctx);
 
 class clsHtmlHelpForForm {
 public:

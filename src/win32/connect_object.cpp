@@ -1,7 +1,7 @@
 #include "win32/connect_object.h"
 
-#include "addin/err_handler.h"
-#include "addin/frm_timer.h"
+#include "core/err_handler.h"
+#include "core/frm_timer.h"
 #include "builders/builder_layouts.h"
 #include "hosts/com/com_dispatch.h"
 #include "hosts/com/com_host.h"
@@ -21,8 +21,8 @@ ConnectObject::~ConnectObject() {
     }
 }
 
-addin::frmTimer* ConnectObject::timerForm() {
-    addin::Context* ctx = connect_ ? connect_->context() : nullptr;
+core::frmTimer* ConnectObject::timerForm() {
+    core::Context* ctx = connect_ ? connect_->context() : nullptr;
     return ctx ? ctx->TimerForm.get() : nullptr;
 }
 
@@ -38,7 +38,7 @@ HRESULT ConnectObject::OnConnection(IDispatch* application, long connectMode, ID
             connect_ = std::make_unique<addin::Connect>(std::make_shared<platform::win::WinPlatform>(module().handle()),
                                                         module().hostApplications());
             // Reports also go to the debugger's output, where a tool such as DebugView shows them.
-            connect_->prepareContext([this](addin::Context& ctx) {
+            connect_->prepareContext([this](core::Context& ctx) {
                 // The settings files go through the Windows profile functions themselves.
                 ctx.IniSettings->setProfile(std::make_unique<platform::win::WinProfile>());
                 ctx.reportListener = [](const basic::Str& report) {
@@ -48,7 +48,7 @@ HRESULT ConnectObject::OnConnection(IDispatch* application, long connectMode, ID
                 // Each form shown on the context's stack gets its window. Without them the
                 // add-in still connects.
                 views_.reset();
-                addin::ignoringErrors([&] {
+                core::ignoringErrors([&] {
                     dialogs::LayoutCatalog layouts;
                     builders::AddBuilderLayouts(layouts);
                     views_ = std::make_unique<view::DialogViews>(ctx, module().handle(), std::move(layouts));

@@ -28,7 +28,7 @@ public:
     const TimerWindow* timers() const { return timers_.get(); }
 
 private:
-    addin::frmTimer* timerForm();
+    core::frmTimer* timerForm();
     // The timers follow the form's intervals after each call into the add-in.
     void syncTimers() noexcept;
 

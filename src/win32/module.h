@@ -9,13 +9,13 @@
 #include <memory>
 #include <string>
 
-#include "addin/context.h"
+#include "core/context.h"
 
 namespace quillet::win32 {
 
 class Module {
 public:
-    explicit Module(HMODULE handle) : handle_(handle), hostApps_(std::make_shared<addin::HostApplications>()) {}
+    explicit Module(HMODULE handle) : handle_(handle), hostApps_(std::make_shared<core::HostApplications>()) {}
 
     HMODULE handle() const { return handle_; }
     // The full path of the DLL.
@@ -26,13 +26,13 @@ public:
     void lock(bool on) { on ? ++locks_ : --locks_; }
     bool canUnload() const { return objects_ == 0 && locks_ == 0; }
 
-    const std::shared_ptr<addin::HostApplications>& hostApplications() const { return hostApps_; }
+    const std::shared_ptr<core::HostApplications>& hostApplications() const { return hostApps_; }
 
 private:
     HMODULE handle_;
     std::atomic<long> objects_{0};
     std::atomic<long> locks_{0};
-    std::shared_ptr<addin::HostApplications> hostApps_;
+    std::shared_ptr<core::HostApplications> hostApps_;
 };
 
 // The module of this DLL, made when the DLL is loaded.

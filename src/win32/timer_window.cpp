@@ -1,6 +1,6 @@
 #include "win32/timer_window.h"
 
-#include "addin/frm_timer.h"
+#include "core/frm_timer.h"
 
 namespace quillet::win32 {
 
@@ -9,7 +9,7 @@ namespace {
 constexpr wchar_t kClassName[] = L"QuilletTimerWindow";
 constexpr int kTimerCount = 3;
 
-addin::frmTimer::Timer& timerOf(addin::frmTimer& form, int number) {
+core::frmTimer::Timer& timerOf(core::frmTimer& form, int number) {
     switch (number) {
     case 1: return form.Timer1;
     case 2: return form.Timer2;
@@ -17,7 +17,7 @@ addin::frmTimer::Timer& timerOf(addin::frmTimer& form, int number) {
     }
 }
 
-void fire(addin::frmTimer& form, int number) {
+void fire(core::frmTimer& form, int number) {
     switch (number) {
     case 1: return form.Timer1_Timer();
     case 2: return form.Timer2_Timer();
@@ -57,7 +57,7 @@ unsigned TimerWindow::running(int number) const {
 
 void TimerWindow::sync() noexcept {
     if (!window_) return;
-    addin::frmTimer* form = nullptr;
+    core::frmTimer* form = nullptr;
     try {
         form = locate_ ? locate_() : nullptr;
     } catch (...) {
@@ -80,7 +80,7 @@ void TimerWindow::sync() noexcept {
 void TimerWindow::tick(UINT_PTR number) noexcept {
     if (number < 1 || number > kTimerCount || running_[number - 1] == 0) return;
     try {
-        if (addin::frmTimer* form = locate_ ? locate_() : nullptr) fire(*form, static_cast<int>(number));
+        if (core::frmTimer* form = locate_ ? locate_() : nullptr) fire(*form, static_cast<int>(number));
     } catch (...) {
         // A timer never lets an error into the editor's message loop.
     }

@@ -10,7 +10,7 @@
 #include <array>
 #include <functional>
 
-namespace quillet::addin {
+namespace quillet::core {
 class frmTimer;
 }
 
@@ -19,7 +19,7 @@ namespace quillet::win32 {
 class TimerWindow {
 public:
     // The form as it is now; null while the add-in is not connected (every timer then stops).
-    using FormLocator = std::function<addin::frmTimer*()>;
+    using FormLocator = std::function<core::frmTimer*()>;
 
     TimerWindow(HINSTANCE instance, FormLocator locate);
     ~TimerWindow();

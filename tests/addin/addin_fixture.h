@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "basic/strings.h"
 #include "basic/unicode.h"
 #include "hosts/memory/memory_host.h"
@@ -41,7 +41,7 @@ protected:
         vbe = memory::MemoryVBE::create();
         platform = std::make_shared<platform::ScriptedPlatform>();
         wirePlatform(*platform, vbe);
-        ctx = std::make_unique<addin::Context>(vbe, platform);
+        ctx = std::make_unique<core::Context>(vbe, platform);
         ctx->reportListener = [this](const Str& report) { reports.push_back(report); };
     }
 
@@ -70,7 +70,7 @@ protected:
     std::shared_ptr<memory::MemoryVBE> vbe;
     std::shared_ptr<memory::MemoryProject> project;
     std::shared_ptr<platform::ScriptedPlatform> platform;
-    std::unique_ptr<addin::Context> ctx;
+    std::unique_ptr<core::Context> ctx;
     std::vector<Str> reports;
 };
 

@@ -2,7 +2,7 @@
 
 #include "addin/block_commands.h"
 
-#include "addin/caret.h"
+#include "core/caret.h"
 #include "addin/quillet_handle.h"
 #include "addin_fixture.h"
 
@@ -105,7 +105,7 @@ TEST_F(BlockCommands, LoopShapes) {
         SCOPED_TRACE(basic::toUtf8(c.command));
         vbe = memory::MemoryVBE::create();
         wirePlatform(*platform, vbe);
-        ctx = std::make_unique<addin::Context>(vbe, platform);
+        ctx = std::make_unique<core::Context>(vbe, platform);
         project.reset();
         openModule(procModule(), 5, 5);
         QuilletHandle(*ctx, c.command, u"");
@@ -125,9 +125,9 @@ TEST_F(BlockCommands, BlankLineHoldingOnlyIndentationStartsTheBlockAtTheCaretCol
 
 TEST_F(BlockCommands, TabWidthAbsentGivesFourSpaces) {
     openModule(procModule(), 5, 5);
-    EXPECT_EQ(addin::TabSpaces(*ctx), u"    ");
+    EXPECT_EQ(core::TabSpaces(*ctx), u"    ");
     platform->setRegistryValue(u"Software\\Microsoft\\VBA\\6.0\\Common", u"TabWidth", u"2");
-    EXPECT_EQ(addin::TabSpaces(*ctx), u"  ");
+    EXPECT_EQ(core::TabSpaces(*ctx), u"  ");
     QuilletHandle(*ctx, u"While", u"");
     EXPECT_EQ(project->component(u"basMain")->CodeModule()->Lines(5, 3), joinLines({u"    While ", u"      ", u"    Wend"}));
 }
@@ -239,9 +239,9 @@ TEST_F(BlockCommands, CurrentCommandNamesTheReport) {
 
 TEST_F(BlockCommands, LineIndentLooksUpPastBlankLines) {
     openModule({u"Sub Main()", u"      x = 1", u"", u"   ", u"End Sub"}, 4, 1);
-    EXPECT_EQ(addin::LineIndentGet(*ctx, 4), 6);
-    EXPECT_EQ(addin::LineIndentGet(*ctx, 1), 0);
-    EXPECT_EQ(addin::CursorIndentGet(*ctx), 6);
+    EXPECT_EQ(core::LineIndentGet(*ctx, 4), 6);
+    EXPECT_EQ(core::LineIndentGet(*ctx, 1), 0);
+    EXPECT_EQ(core::CursorIndentGet(*ctx), 6);
 }
 
 }  // namespace

@@ -241,7 +241,7 @@ TEST_F(AccessBar, TestingModeWithAnAccessProjectPutsAddControlOnAccesssOwnBar) {
     setting(u"ToolbarPosMicrosoft Access", u"4");
     setting(u"ToolbarLeft" u"Microsoft Access", u"77");
     long opened = 0;
-    ctx->routines[u"ControlsAddFormOpen"] = [&](addin::Context&, const Str&) { ++opened; };
+    ctx->routines[u"ControlsAddFormOpen"] = [&](core::Context&, const Str&) { ++opened; };
     addin::AccessToolBarCreate(*ctx);
     auto onAccess = accessBar();
     ASSERT_TRUE(onAccess);

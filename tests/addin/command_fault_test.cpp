@@ -20,7 +20,7 @@ protected:
         platform = std::make_shared<platform::ScriptedPlatform>();
         wireFaces(*platform, memoryVbe);
         plan->reset();
-        ctx = std::make_unique<addin::Context>(fault::wrapVBE(memoryVbe, plan), platform);
+        ctx = std::make_unique<core::Context>(fault::wrapVBE(memoryVbe, plan), platform);
         reports.clear();
         ctx->reportListener = [this](const Str& report) { reports.push_back(report); };
     }
@@ -62,7 +62,7 @@ protected:
     std::shared_ptr<fault::FaultPlan> plan = std::make_shared<fault::FaultPlan>();
     std::shared_ptr<memory::MemoryVBE> memoryVbe;
     std::shared_ptr<platform::ScriptedPlatform> platform;
-    std::unique_ptr<addin::Context> ctx;
+    std::unique_ptr<core::Context> ctx;
     std::vector<Str> reports;
 };
 

@@ -19,7 +19,7 @@ protected:
     }
     // Records each call of the routine `name` with its argument.
     void record(const Str& name) {
-        ctx->routines[name] = [this, name](addin::Context&, const Str& argument) {
+        ctx->routines[name] = [this, name](core::Context&, const Str& argument) {
             calls.push_back(name + u"(" + argument + u")");
         };
     }
@@ -185,10 +185,10 @@ TEST_F(CommandHandlers, HelpContentsOpensTheHelpFileOnlyWhenItIsThere) {
 }
 
 TEST_F(CommandHandlers, AFailingHandlerIsReportedAndTheClickReturns) {
-    ctx->routines[u"frmVar"] = [](addin::Context&, const Str&) {
+    ctx->routines[u"frmVar"] = [](core::Context&, const Str&) {
         throw basic::VbError(91, u"Object variable or With block variable not set");
     };
-    ctx->routines[u"frmConst"] = [](addin::Context&, const Str&) { throw std::runtime_error("broken"); };
+    ctx->routines[u"frmConst"] = [](core::Context&, const Str&) { throw std::runtime_error("broken"); };
     build();
     EXPECT_NO_THROW(click(u"&Add Variable..."));
     EXPECT_NO_THROW(click(u"&Add Constant..."));

@@ -3,7 +3,7 @@
 
 #include "addin/bar_state.h"
 
-#include "addin/frm_timer.h"
+#include "addin/project_watch.h"
 #include "command_fixture.h"
 
 namespace quillet::testing {
@@ -118,7 +118,7 @@ TEST_F(BarState, APropertyIsWrittenOnlyWhenItsValueChanges) {
 TEST_F(BarState, TheProjectWatchSetsTheBarsState) {
     openModule(procModule(), 1, 1);
     build();
-    ctx->TimerForm = std::make_unique<addin::frmTimer>(*ctx);
+    ctx->TimerForm = addin::TimerFormCreate(*ctx);
     ctx->TimerForm->Timer1_Timer();
     EXPECT_FALSE(control(u"Insert Varia&ble...")->Visible());
     caretAt(5);

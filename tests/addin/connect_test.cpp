@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <string>
 
-#include "addin/frm_timer.h"
+#include "addin/project_watch.h"
 #include "addin_fixture.h"
 #include "settings/catalogue.h"
 
@@ -25,14 +25,14 @@ protected:
                ("quillet-connect-" + std::to_string(::getpid()) + "-" +
                 ::testing::UnitTest::GetInstance()->current_test_info()->name());
         std::filesystem::remove_all(home);
-        connect->prepareContext([this](addin::Context& c) { c.IniSettings->SettingsFolder = home.string(); });
+        connect->prepareContext([this](core::Context& c) { c.IniSettings->SettingsFolder = home.string(); });
     }
     ~Connection() override {
         connect.reset();
         std::filesystem::remove_all(home);
     }
 
-    addin::Context& ctx() { return *connect->context(); }
+    core::Context& ctx() { return *connect->context(); }
     host::CommandBarPtr bar() { return vbe->CommandBars()->Item(u"Quillet"); }
     void tick() { ctx().TimerForm->Timer1_Timer(); }
 
@@ -247,7 +247,7 @@ private:
 };
 
 TEST(HostConnectors, KeepTheApplicationWhileConnected) {
-    auto apps = std::make_shared<addin::HostApplications>();
+    auto apps = std::make_shared<core::HostApplications>();
     addin::HostConnector excel(addin::ConnectorKind::Excel, apps);
     addin::HostConnector access(addin::ConnectorKind::Access, apps);
     auto application = std::make_shared<FakeApplication>(u"Application");
@@ -265,7 +265,7 @@ TEST(HostConnectors, KeepTheApplicationWhileConnected) {
 TEST(HostConnectors, ShareTheirObjectWithTheConnection) {
     auto vbe = memory::MemoryVBE::create();
     auto platform = std::make_shared<platform::ScriptedPlatform>();
-    auto apps = std::make_shared<addin::HostApplications>();
+    auto apps = std::make_shared<core::HostApplications>();
     addin::HostConnector word(addin::ConnectorKind::Word, apps);
     auto application = std::make_shared<FakeApplication>(u"Application");
     word.AddinInstance_OnConnection(application);
@@ -283,9 +283,9 @@ namespace {
 class TimerTwo : public AddinFixture {
 protected:
     TimerTwo() {
-        ctx->TimerForm = std::make_unique<addin::frmTimer>(*ctx);
-        ctx->routines[u"frmVar"] = [this](addin::Context&, const Str& arg) { opened.push_back(u"frmVar:" + arg); };
-        ctx->routines[u"frmCodeLineTLI"] = [this](addin::Context&, const Str& arg) {
+        ctx->TimerForm = addin::TimerFormCreate(*ctx);
+        ctx->routines[u"frmVar"] = [this](core::Context&, const Str& arg) { opened.push_back(u"frmVar:" + arg); };
+        ctx->routines[u"frmCodeLineTLI"] = [this](core::Context&, const Str& arg) {
             opened.push_back(u"frmCodeLineTLI:" + arg);
         };
     }
@@ -316,7 +316,7 @@ TEST_F(TimerTwo, OpensTheLineOfCodeBuilderAndNothingElse) {
 }
 
 TEST_F(TimerTwo, AFailingBuilderIsReported) {
-    ctx->routines[u"frmVar"] = [](addin::Context&, const Str&) { throw basic::VbError(5, u"Invalid procedure call or argument"); };
+    ctx->routines[u"frmVar"] = [](core::Context&, const Str&) { throw basic::VbError(5, u"Invalid procedure call or argument"); };
     ctx->TimerForm->Timer2 = {50, u"frmVar"};
     ctx->TimerForm->Timer2_Timer();
     EXPECT_EQ(reports.size(), 1u);

@@ -1,20 +1,20 @@
 // Error reports: their text, their way into the Immediate window, and their retry.
 
-#include "addin/err_handler.h"
+#include "core/err_handler.h"
 
-#include "addin/frm_timer.h"
+#include "core/frm_timer.h"
 #include "addin_fixture.h"
 
 namespace quillet::testing {
 namespace {
 
-using addin::HandleError;
+using core::HandleError;
 using basic::VbError;
 
 class ErrorReports : public AddinFixture {
 protected:
     ErrorReports() {
-        ctx->TimerForm = std::make_unique<addin::frmTimer>(*ctx);
+        ctx->TimerForm = std::make_unique<core::frmTimer>(*ctx);
         ctx->CurrentCommand = u"If Then.";
     }
     const Str header = u"[please report to support@quillet.dev]\r\nVersion: 0.1.0\r\n";
@@ -71,7 +71,7 @@ TEST_F(ErrorReports, TestingModeShowsAMessageBoxToo) {
 }
 
 TEST_F(ErrorReports, ModalDialogHoldingTheFocusMakesTimer3RetryUntilThePasteSucceeds) {
-    ctx->ImmediateWindowHandle = addin::FindImmediateWindowHandle(*ctx);
+    ctx->ImmediateWindowHandle = core::FindImmediateWindowHandle(*ctx);
     vbe->setModalDialog(true);
     HandleError(*ctx, VbError(9, u"Subscript out of range"), 0, u"first");
     HandleError(*ctx, VbError(13, u"Type mismatch"), 0, u"second");
@@ -93,17 +93,17 @@ TEST_F(ErrorReports, ModalDialogHoldingTheFocusMakesTimer3RetryUntilThePasteSucc
 }
 
 TEST_F(ErrorReports, ExceptionsOfAnyKindBecomeErrors) {
-    EXPECT_EQ(addin::errorOf(std::make_exception_ptr(VbError(35, u"x"))).Number(), 35);
-    EXPECT_EQ(addin::errorOf(std::make_exception_ptr(std::bad_alloc())).Number(), 7);
-    auto other = addin::errorOf(std::make_exception_ptr(std::runtime_error("disk full")));
+    EXPECT_EQ(core::errorOf(std::make_exception_ptr(VbError(35, u"x"))).Number(), 35);
+    EXPECT_EQ(core::errorOf(std::make_exception_ptr(std::bad_alloc())).Number(), 7);
+    auto other = core::errorOf(std::make_exception_ptr(std::runtime_error("disk full")));
     EXPECT_EQ(other.Number(), 1004);
     EXPECT_EQ(other.Description(), u"disk full");
-    EXPECT_EQ(addin::errorOf(std::make_exception_ptr(42)).Number(), 1004);
+    EXPECT_EQ(core::errorOf(std::make_exception_ptr(42)).Number(), 1004);
 }
 
 TEST_F(ErrorReports, GuardedStatementReportsAndGoesOn) {
     bool after = false;
-    bool ran = addin::guarded(*ctx, u"basX.Y", [] { throw VbError(5, u"Invalid procedure call or argument"); });
+    bool ran = core::guarded(*ctx, u"basX.Y", [] { throw VbError(5, u"Invalid procedure call or argument"); });
     after = true;
     EXPECT_FALSE(ran);
     EXPECT_TRUE(after);

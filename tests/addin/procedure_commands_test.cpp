@@ -1,7 +1,7 @@
 #include "addin/procedure_commands.h"
 
 #include "addin/quillet_handle.h"
-#include "addin/scan_commands.h"
+#include "core/command_env.h"
 #include "scan_fixture.h"
 
 namespace quillet::addin {

@@ -36,7 +36,7 @@ Outcome runWithFault(const Scenario& s, long k) {
     auto platform = std::make_shared<platform::ScriptedPlatform>();
     wirePlatform(*platform, memoryVbe);
     if (s.answer) platform->queueAnswer(s.answer);
-    addin::Context ctx(hosts::fault::wrapVBE(memoryVbe, plan), platform);
+    core::Context ctx(hosts::fault::wrapVBE(memoryVbe, plan), platform);
     Outcome run;
     ctx.reportListener = [&](const Str&) { ++run.reports; };
     if (k > 0) plan->failAt(k);

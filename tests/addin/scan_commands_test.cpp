@@ -1,4 +1,4 @@
-#include "addin/scan_commands.h"
+#include "core/command_env.h"
 
 #include "addin/quillet_handle.h"
 #include "scan_fixture.h"

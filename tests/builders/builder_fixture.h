@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "../fragments/fragments_fixture.h"
-#include "addin/scan_commands.h"
+#include "core/command_env.h"
 #include "builders/builder_registry.h"
 #include "dialogs/ui_player.h"
 #include "settings/ini_vars.h"

@@ -12,15 +12,15 @@ namespace quillet::builders {
 namespace {
 
 TEST(BuilderRegistry, ABuilderOpensByNameFromScriptsAndRoutines) {
-    addin::Context ctx(hosts::memory::MemoryVBE::create(), std::make_shared<platform::ScriptedPlatform>());
+    core::Context ctx(hosts::memory::MemoryVBE::create(), std::make_shared<platform::ScriptedPlatform>());
     std::vector<std::vector<Str>> calls;
     RegisterBuilder(ctx, u"frmTest", [&](const std::vector<Str>& args) {
         calls.push_back(args);
         auto& form = ctx.Forms->Adopt(std::make_unique<dialogs::Form>(u"frmTest"));
         form.Show(dialogs::vbModal);
     });
-    addin::RoutineRun(ctx, u"frmTest", u"Quillet_Startup");
-    addin::RoutineRun(ctx, u"frmTest");
+    core::RoutineRun(ctx, u"frmTest", u"Quillet_Startup");
+    core::RoutineRun(ctx, u"frmTest");
     EXPECT_TRUE(ctx.Forms->Open(u"FRMTEST", {u"a", u"b"}));
     EXPECT_EQ(calls, (std::vector<std::vector<Str>>{{u"Quillet_Startup"}, {}, {u"a", u"b"}}));
     ASSERT_NE(ctx.Forms->Top(), nullptr);

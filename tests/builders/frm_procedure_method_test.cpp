@@ -10,14 +10,14 @@ namespace {
 // Plays the Class Builder: a class with its methods and the one selected.
 class frmClassStub : public dialogs::Form, public MethodOwner {
 public:
-    explicit frmClassStub(addin::Context& ctx) : Form(u"frmClass"), ctx_(ctx) {}
+    explicit frmClassStub(core::Context& ctx) : Form(u"frmClass"), ctx_(ctx) {}
     Str ClassName() override { return u"clsInvoice"; }
     generators::clsProcedure* SelectedMethod() override { return selected; }
     generators::colProcedures& Methods() override { return methods; }
     void ModuleNameConstant(bool value) override { moduleConstant = value; }
     void MethodsList(bool selectLast) override { refills.push_back(selectLast); }
 
-    addin::Context& ctx_;
+    core::Context& ctx_;
     generators::colProcedures methods;
     generators::clsProcedure* selected = nullptr;
     bool moduleConstant = false;

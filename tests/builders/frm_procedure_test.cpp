@@ -24,7 +24,7 @@ protected:
 
 TEST_F(ProcedureBuilder, OpensFromTheCommandBarsRoutine) {
     EXPECT_TRUE(ctx->Forms->IsRegistered(u"frmProcedure"));
-    addin::RoutineRun(*ctx, u"frmProcedure");
+    core::RoutineRun(*ctx, u"frmProcedure");
     ASSERT_NE(ctx->Forms->Top(), nullptr);
     EXPECT_EQ(ctx->Forms->Top()->Name(), u"frmProcedure");
     EXPECT_TRUE(ctx->Forms->Top()->IsModal());

@@ -6,13 +6,13 @@
 
 #include <algorithm>
 
-#include "addin/err_handler.h"
+#include "core/err_handler.h"
 #include "win32/view/dialog_fonts.h"
 #include "win32/view/dialog_window.h"
 
 namespace quillet::win32::view {
 
-DialogViews::DialogViews(addin::Context& ctx, HINSTANCE instance, dialogs::LayoutCatalog layouts)
+DialogViews::DialogViews(core::Context& ctx, HINSTANCE instance, dialogs::LayoutCatalog layouts)
     : ctx_(ctx), stack_(ctx.Forms), instance_(instance), layouts_(std::move(layouts)) {
     INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
     InitCommonControlsEx(&controls);
@@ -29,10 +29,10 @@ DialogViews::DialogViews(addin::Context& ctx, HINSTANCE instance, dialogs::Layou
     // Another connection may have it registered already.
     classRegistered_ = RegisterClassExW(&windowClass) != 0;
     stack_->shown = [this](dialogs::Form& form) {
-        addin::guarded(ctx_, form.Name() + u".Show", [&] { shown(form); });
+        core::guarded(ctx_, form.Name() + u".Show", [&] { shown(form); });
     };
     stack_->closed = [this](dialogs::Form& form) {
-        addin::guarded(ctx_, form.Name() + u".Hide", [&] { closed(form); });
+        core::guarded(ctx_, form.Name() + u".Hide", [&] { closed(form); });
     };
 }
 
@@ -64,7 +64,7 @@ bool DialogViews::alive(const dialogs::Form& form) const {
 
 HWND DialogViews::editorWindow() const {
     HWND window = nullptr;
-    addin::ignoringErrors([&] {
+    core::ignoringErrors([&] {
         if (ctx_.VBInstance) window = reinterpret_cast<HWND>(static_cast<INT_PTR>(ctx_.VBInstance->MainWindow()->hWnd()));
     });
     if (!window || !IsWindow(window)) window = GetForegroundWindow();
@@ -126,7 +126,7 @@ void DialogViews::forward(dialogs::Form& form, const std::u16string& where, cons
 }
 
 void DialogViews::report(const std::u16string& where) noexcept {
-    addin::HandleError(ctx_, addin::errorOf(std::current_exception()), 0, where);
+    core::HandleError(ctx_, core::errorOf(std::current_exception()), 0, where);
 }
 
 void DialogViews::showAll() noexcept {

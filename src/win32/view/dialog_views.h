@@ -13,7 +13,7 @@
 #include <memory>
 #include <vector>
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "dialogs/layout.h"
 
 namespace quillet::win32::view {
@@ -22,7 +22,7 @@ class DialogWindow;
 
 class DialogViews {
 public:
-    DialogViews(addin::Context& ctx, HINSTANCE instance, dialogs::LayoutCatalog layouts);
+    DialogViews(core::Context& ctx, HINSTANCE instance, dialogs::LayoutCatalog layouts);
     // Every window goes, the owners enabled again, the hook removed and the stack left alone.
     ~DialogViews();
     DialogViews(const DialogViews&) = delete;
@@ -51,7 +51,7 @@ private:
     void destroyClosed() noexcept;
     static LRESULT CALLBACK keyHook(int code, WPARAM wParam, LPARAM lParam);
 
-    addin::Context& ctx_;
+    core::Context& ctx_;
     std::shared_ptr<dialogs::FormStack> stack_;
     HINSTANCE instance_;
     dialogs::LayoutCatalog layouts_;

@@ -2,9 +2,9 @@
 // The caret and line routines on which all insertion at the cursor rests. They work on the
 // active code pane, taken afresh at each call.
 
-#include "addin/context.h"
+#include "core/context.h"
 
-namespace quillet::addin {
+namespace quillet::core {
 
 // True with a project open and a code window active.
 bool IsCodeContext(Context& ctx);
@@ -25,4 +25,4 @@ void LineReplace(Context& ctx, const Str& text, long col);
 // empty or short module with blank lines first so the line exists.
 void writeAtLine(host::CodeModule& module, long line, const Str& text, bool replace);
 
-}  // namespace quillet::addin
+}  // namespace quillet::core

@@ -3,10 +3,10 @@
 // initialize takes fresh scans of the module and procedure at the caret, NewNameIsOK checks a
 // name against what the scans know, AddCodeLine places a finished declaration or block.
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "source/code_env.h"
 
-namespace quillet::addin {
+namespace quillet::core {
 
 // The environment of the code-placing routines over this context.
 source::CodeEnv codeEnvOf(Context& ctx);
@@ -31,4 +31,12 @@ long NewNameIsOK(Context& ctx, const Str& name, long kind);
 // line. True when placed.
 bool AddCodeLine(Context& ctx, const Str& text, const Str& module = {}, long lngBlockLine = 0);
 
-}  // namespace quillet::addin
+// RoutineRun(name, argument): runs the routine registered under that name (a builder's opening),
+// when there is one.
+void RoutineRun(Context& ctx, const Str& name, const Str& argument = {});
+
+// In Outlook the editor loses its place behind Outlook's reading pane after some calls: closes
+// that window and gives the focus back to the editor's first window.
+void OutlookStep(Context& ctx);
+
+}  // namespace quillet::core

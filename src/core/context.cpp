@@ -1,14 +1,13 @@
-#include "addin/context.h"
+#include "core/context.h"
 
 #include <ctime>
 
-#include "addin/err_handler.h"
-#include "addin/frm_timer.h"
-#include "addin/version.h"
+#include "core/err_handler.h"
+#include "core/frm_timer.h"
+#include "core/version.h"
 #include "basic/unicode.h"
-#include "support/cls_html_help.h"
 
-namespace quillet::addin {
+namespace quillet::core {
 
 namespace {
 
@@ -46,4 +45,4 @@ Str Context::Version() const {
                       std::to_string(kVersionRevision));
 }
 
-}  // namespace quillet::addin
+}  // namespace quillet::core

@@ -1,13 +1,13 @@
-#include "addin/err_handler.h"
+#include "core/err_handler.h"
 
 #include <new>
 #include <string>
 
-#include "addin/frm_timer.h"
+#include "core/frm_timer.h"
 #include "basic/unicode.h"
 #include "platform/platform.h"
 
-namespace quillet::addin {
+namespace quillet::core {
 
 using basic::VbError;
 
@@ -124,4 +124,4 @@ host::WindowHandle FindImmediateWindowHandle(Context& ctx) noexcept {
     return handle;
 }
 
-}  // namespace quillet::addin
+}  // namespace quillet::core

@@ -1,10 +1,10 @@
-#include "addin/caret.h"
+#include "core/caret.h"
 
 #include "basic/strings.h"
 #include "platform/platform.h"
 #include "source/current_proc.h"
 
-namespace quillet::addin {
+namespace quillet::core {
 
 using basic::Len;
 using basic::Trim;
@@ -94,4 +94,4 @@ void LineReplace(Context& ctx, const Str& text, long col) {
     if (col > 0) pane->SetSelection(target, col, target, col);
 }
 
-}  // namespace quillet::addin
+}  // namespace quillet::core

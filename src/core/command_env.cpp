@@ -1,7 +1,6 @@
-#include "addin/scan_commands.h"
+#include "core/command_env.h"
 
-#include "addin/err_handler.h"
-#include "addin/lifecycle.h"
+#include "core/err_handler.h"
 #include "basic/strings.h"
 #include "source/code_placing.h"
 #include "source/current_proc.h"
@@ -9,7 +8,7 @@
 #include "source/project_refresh.h"
 #include "source/words.h"
 
-namespace quillet::addin {
+namespace quillet::core {
 
 using basic::Compare;
 using basic::StrComp;
@@ -134,4 +133,15 @@ bool AddCodeLine(Context& ctx, const Str& text, const Str& module, long lngBlock
     return placed;
 }
 
-}  // namespace quillet::addin
+void RoutineRun(Context& ctx, const Str& name, const Str& argument) {
+    auto it = ctx.routines.find(name);
+    if (it != ctx.routines.end() && it->second) it->second(ctx, argument);
+}
+
+void OutlookStep(Context& ctx) {
+    if (basic::StrComp(ctx.HostName, u"Outlook", basic::Compare::Text) != 0) return;
+    ctx.Platform().CloseWindowOfClass(u"rctrl_renwnd32");
+    ctx.VBInstance->Windows()->Item(1)->SetFocus();
+}
+
+}  // namespace quillet::core

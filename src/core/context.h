@@ -21,14 +21,17 @@
 namespace quillet::support {
 class clsHtmlHelp;
 }
-
+// The add-in's connection and command bar, which the context keeps for the add-in's commands.
 namespace quillet::addin {
+class Connect;
+struct CommandBarState;
+}  // namespace quillet::addin
+
+namespace quillet::core {
 
 using basic::Str;
 
-class Connect;
 class frmTimer;
-struct CommandBarState;
 
 // What the quick commands keep between the steps of one command: taken afresh for each.
 struct QuickCommandState {
@@ -77,7 +80,7 @@ public:
     std::shared_ptr<platform::Platform> platformPtr() const { return platform_; }
 
     host::VBEPtr VBInstance;
-    Connect* ConnectInstance = nullptr;
+    addin::Connect* ConnectInstance = nullptr;
     const basic::DispatchPtr& ExcelApp() const { return hostApps_->ExcelApp; }
     const basic::DispatchPtr& WordApp() const { return hostApps_->WordApp; }
     const basic::DispatchPtr& AccessApp() const { return hostApps_->AccessApp; }
@@ -139,13 +142,13 @@ public:
     // dialog is there, an input box lists the entries and takes an entry or its number.
     std::function<std::optional<Str>(Context&, const Str& title, const std::vector<Str>& items)> SelectFromList;
     // The command bar's controls and their click sinks, kept while connected.
-    std::shared_ptr<CommandBarState> commandBar;
+    std::shared_ptr<addin::CommandBarState> commandBar;
     // The help file's service (basHTMLHelp makes it at its first use).
-    std::unique_ptr<support::clsHtmlHelp> HtmlHelpObject;
+    std::shared_ptr<support::clsHtmlHelp> HtmlHelpObject;
 
 private:
     std::shared_ptr<platform::Platform> platform_;
     std::shared_ptr<HostApplications> hostApps_;
 };
 
-}  // namespace quillet::addin
+}  // namespace quillet::core

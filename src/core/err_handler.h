@@ -6,9 +6,9 @@
 #include <exception>
 #include <utility>
 
-#include "addin/context.h"
+#include "core/context.h"
 
-namespace quillet::addin {
+namespace quillet::core {
 
 // HandleError(Err, lngLine, strProcedure, strModule, strMember). Never throws.
 void HandleError(Context& ctx, const basic::VbError& err, long line, const Str& procedure,
@@ -49,4 +49,4 @@ bool ignoringErrors(F&& statement) noexcept {
     }
 }
 
-}  // namespace quillet::addin
+}  // namespace quillet::core
