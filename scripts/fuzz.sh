@@ -11,6 +11,7 @@ seconds=${1:-60}
 jobs=${FUZZ_JOBS:-2}
 build=build-fuzz
 targets=(source_fuzz_parsers source_fuzz_scans)
+targets+=(typelib_fuzz)
 
 # libFuzzer's runtime comes with compiler-rt, which apt only recommends with clang.
 if ! command -v clang++ >/dev/null 2>&1 || ! dpkg -s libclang-rt-14-dev >/dev/null 2>&1; then
@@ -37,10 +38,13 @@ for target in "${targets[@]}"; do
     # A fresh working corpus per target, seeded from the checked-in one; new finds stay in the build.
     corpus="$build/corpus/$target"
     mkdir -p "$corpus"
+    # A target with a seed corpus of its own (tests/fuzz/TARGET_corpus) starts from that one.
+    seeds=tests/fuzz/source_corpus
+    [ -d "tests/fuzz/${target}_corpus" ] && seeds="tests/fuzz/${target}_corpus"
     echo "== $target: fuzzing for ${seconds}s =="
     if ! ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
         "$build/$target" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
-        -artifact_prefix="$build/artifacts/$target-" "$corpus" tests/fuzz/source_corpus; then
+        -artifact_prefix="$build/artifacts/$target-" "$corpus" "$seeds"; then
         echo "!! $target failed: the input that broke it is in $build/artifacts/" >&2
         status=1
     fi

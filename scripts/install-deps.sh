@@ -3,6 +3,8 @@
 set -euo pipefail
 
 packages=(cmake g++ make libgtest-dev libgmock-dev libbenchmark-dev)
+# widl (Wine's IDL compiler) builds the type libraries the reader's tests read.
+packages+=(wine64-tools)
 missing=()
 for p in "${packages[@]}"; do
     dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")

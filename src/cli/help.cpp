@@ -22,6 +22,7 @@ constexpr const char* kToolHelp =
     "  play     drive a builder's dialog with a UI script, then write the code\n"
     "  settings show the settings, or change one (quillet settings set ...)\n"
     "  scan     show what the scans see of a project, a module or a procedure\n"
+    "  typelib  show what a type library offers: groups, procedures, enums, classes\n"
     "  help     show the help of a command (quillet help run)\n"
     "  version  show the version\n"
     "\n"
@@ -113,6 +114,23 @@ constexpr const char* kScanHelp =
     "Example:\n"
     "  quillet scan --project examples/Invoicing --at basMain:3 --json\n";
 
+constexpr const char* kTypelibHelp =
+    "Usage: quillet typelib FILE [--typelib-path DIR]... [--json]\n"
+    "\n"
+    "Shows what the library scan makes of one type library: its groups of procedures\n"
+    "that are called without a qualifier (modules and the application object) with\n"
+    "each procedure's arguments, its enums with their constants, and its classes.\n"
+    "FILE is a .tlb or .olb file, or a .dll, .ocx or .exe with a type library resource\n"
+    "(FILE\\2 for the resource number 2).\n"
+    "\n"
+    "Options:\n"
+    "  --typelib-path DIR    a folder where the libraries this one imports are looked\n"
+    "                        for (by file name, then by GUID); may be repeated\n"
+    "  --json                one JSON object: library, groups, enums, classes\n"
+    "\n"
+    "Example:\n"
+    "  quillet typelib /usr/lib/x86_64-linux-gnu/wine/x86_64-windows/stdole2.tlb\n";
+
 }  // namespace
 
 std::string helpText(Verb verb) {
@@ -122,6 +140,7 @@ std::string helpText(Verb verb) {
         case Verb::Play: return kPlayHelp;
         case Verb::Settings: return settingsHelpText();
         case Verb::Scan: return kScanHelp;
+        case Verb::Typelib: return kTypelibHelp;
         default: return kToolHelp;
     }
 }

@@ -42,7 +42,7 @@ std::pair<Str, std::string> modulePart(const std::string& text, const std::strin
 Verb verbNamed(const std::string& word) {
     static const std::map<std::string, Verb> verbs = {
         {"run", Verb::Run}, {"list", Verb::List}, {"play", Verb::Play}, {"help", Verb::Help}, {"version", Verb::Version},
-        {"settings", Verb::Settings}, {"scan", Verb::Scan}};
+        {"settings", Verb::Settings}, {"scan", Verb::Scan}, {"typelib", Verb::Typelib}};
     auto found = verbs.find(word);
     if (found == verbs.end()) throw UsageError("unknown command \"" + word + "\"");
     return found->second;
@@ -82,7 +82,8 @@ private:
         }
         static const std::set<std::string> valued = {"--project",  "--at",        "--select", "--answer",
                                                      "--settings", "--code-page", "--data",
-                                                     "--module"};
+                                                     "--module",
+                                                     "--typelib-path"};
         if (!valued.count(name)) throw UsageError("unknown option " + name);
         std::string value = inlineValue ? *inlineValue : next(name);
         if (name == "--project") {
@@ -99,6 +100,8 @@ private:
             options_.data = value;
         } else if (name == "--module") {
             options_.scanModule = basic::fromUtf8(value);
+        } else if (name == "--typelib-path") {
+            options_.typelibPath.push_back(value);
         } else if (name == "--code-page") {
             options_.codePage = hosts::files::codePageNamed(value);
             if (!options_.codePage) throw UsageError("unknown code page \"" + value + "\" (use 1252 or 65001)");
@@ -158,6 +161,15 @@ void checkScan(const ToolOptions& options, const std::vector<std::string>& posit
     }
 }
 
+void checkTypelib(ToolOptions& options, const std::vector<std::string>& positionals) {
+    if (positionals.size() != 1) throw UsageError("typelib needs one FILE (a .tlb, .olb, .dll, .ocx or .exe)");
+    if (options.project || options.at || options.select || !options.answers.empty() || options.dryRun ||
+        options.scanModule || options.codePage) {
+        throw UsageError("typelib takes only --json and --typelib-path");
+    }
+    options.typelibFile = positionals[0];
+}
+
 void checkList(const ToolOptions& options, const std::vector<std::string>& positionals) {
     if (!positionals.empty()) throw UsageError("list takes no arguments; unexpected \"" + positionals[0] + "\"");
     if (!options.project) throw UsageError("list needs --project PATH");
@@ -215,6 +227,7 @@ ToolOptions parseArguments(const std::vector<std::string>& args) {
         case Verb::Play: checkPlay(options, positionals); break;
         case Verb::Settings: checkSettings(options, positionals); break;
         case Verb::Scan: checkScan(options, positionals); break;
+        case Verb::Typelib: checkTypelib(options, positionals); break;
         case Verb::Help:
             // "quillet help run" is "quillet run --help".
             if (!positionals.empty()) {

@@ -7,6 +7,7 @@
 #include "cli/run_command.h"
 #include "cli/scan_command.h"
 #include "cli/settings_command.h"
+#include "cli/typelib_command.h"
 #include "hosts/files/project_error.h"
 
 namespace quillet::cli {
@@ -15,7 +16,7 @@ namespace {
 
 std::string helpHint(const std::vector<std::string>& args) {
     bool verb = !args.empty() && (args[0] == "run" || args[0] == "list" || args[0] == "play" || args[0] == "settings" ||
-                             args[0] == "scan");
+                             args[0] == "scan" || args[0] == "typelib");
     return verb ? "Try 'quillet " + args[0] + " --help'." : "Try 'quillet --help'.";
 }
 
@@ -33,6 +34,7 @@ int dispatch(const ToolOptions& options, std::ostream& out, std::ostream& err) {
         case Verb::Play: return playScript(options, out, err);
         case Verb::Settings: return settingsCommand(options, out, err);
         case Verb::Scan: return scanProject(options, out, err);
+        case Verb::Typelib: return typelibCommand(options, out, err);
         default: return kExitOk;
     }
 }
