@@ -7,6 +7,9 @@
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
 
 #include "generated_project.h"
 #include "addin/context.h"
@@ -26,6 +29,8 @@ struct Opening {
     double minimum = 0, median = 0;
     long calls = 0;
     bool opened = true;
+    // The editor members the last opening called most, with their counts.
+    std::vector<std::pair<long, std::string>> busiest;
 };
 
 Opening timeOpening(addin::Context& ctx, hosts::fault::FaultPlan& plan, const basic::Str& form) {
@@ -38,9 +43,15 @@ Opening timeOpening(addin::Context& ctx, hosts::fault::FaultPlan& plan, const ba
         result.opened = ctx.Forms->Open(form) && ctx.Forms->Top();
         times.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
         result.calls = plan.calls() - before;
+        std::map<std::string, long> members;
+        for (const auto& member : plan.log()) ++members[member];
+        result.busiest.clear();
+        for (const auto& [member, count] : members) result.busiest.push_back({count, member});
         // The Class Builder asks before it drops what was entered; an empty one closes at once.
         if (result.opened) ctx.Forms->Raise([&] { ctx.Forms->Top()->Controls(u"cmdCancel").Click(); });
     }
+    std::sort(result.busiest.rbegin(), result.busiest.rend());
+    if (result.busiest.size() > 4) result.busiest.resize(4);
     std::sort(times.begin(), times.end());
     result.minimum = times.front();
     result.median = times[times.size() / 2];
@@ -75,6 +86,7 @@ int main() {
             continue;
         }
         std::printf("  %-12s min %.2f ms  median %.2f ms  %ld editor calls\n", name.c_str(), o.minimum, o.median, o.calls);
+        for (const auto& [count, member] : o.busiest) std::printf("    %6ld  %s\n", count, member.c_str());
     }
     std::filesystem::remove_all(folder);
     return status;

@@ -8,6 +8,7 @@
 #include "builders/frm_property.h"
 #include "dialogs/list_view.h"
 #include "generators/cls_class.h"
+#include "generators/record_class.h"
 
 namespace quillet::builders {
 
@@ -36,6 +37,9 @@ public:
 
     // The page of TabMain in view: its controls visible, the other pages' hidden.
     void TabShow(long index);
+    // Copy from table: a property per field, the Recordset and Loaded helpers, and the record
+    // methods of the project's kind (ADO or DAO); the lists show them.
+    void CopyFromTable(const Str& table, const std::vector<generators::TableField>& fields, bool ado);
     // Whether anything was entered that closing would lose.
     bool HasContent();
     // lvProperties and lvMethods with their columns.

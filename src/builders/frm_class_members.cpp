@@ -101,6 +101,12 @@ void frmClass::cmdDelProp_Click() {
     PropertiesList(false);
 }
 
+void frmClass::CopyFromTable(const Str& table, const std::vector<generators::TableField>& fields, bool ado) {
+    generators::RecordClassFromTable(ctx_, *class_, table, fields, ado);
+    PropertiesList(false);
+    MethodsList(false);
+}
+
 void frmClass::cmdDelMethod_Click() {
     auto& list = Controls(u"lvMethods");
     Str key = lvMethods_->SelectedKey();

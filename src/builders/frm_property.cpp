@@ -27,6 +27,9 @@ bool is(const Str& a, const Str& b) { return basic::StrComp(a, b, basic::Compare
 
 long checkValue(bool on) { return on ? dialogs::vbChecked : dialogs::vbUnchecked; }
 
+// "<New Class Module>" and its kind: entries that name no module yet.
+bool isNewEntry(const Str& module) { return basic::Like(module, u"<New*", basic::Compare::Text); }
+
 // A word at the caret that can name a property: a letter, then letters, digits or "_".
 bool couldBeName(const Str& word) {
     if (word.empty() || !source::IsCharAlphaA(word[0])) return false;
@@ -141,7 +144,8 @@ void frmProperty::Init(const Str& type) {
         source::qltModulesList(env, module, 2, {}, false, true);
         moduleQuiet_ = false;
         Str name = basic::Trim(module.Text());
-        if (source::componentNamed(*ctx_.VBInstance, name) && source::ModuleNameConstantAdd(env, name, true))
+        if (!isNewEntry(name) && source::componentNamed(*ctx_.VBInstance, name) &&
+            source::ModuleNameConstantAdd(env, name, true))
             Controls(u"chkAddModuleConstant").Value(dialogs::vbChecked);
     });
     Controls(u"chkAddHourglass").Enabled =
@@ -224,7 +228,7 @@ void frmProperty::SetControlsState() {
     bool fFriend = true;
     if (!classOwner()) {
         Str module = basic::Trim(Controls(u"cboModule").Text());
-        if (!basic::Like(module, u"<New*", basic::Compare::Text)) {
+        if (!isNewEntry(module)) {
             auto component = source::componentNamed(*ctx_.VBInstance, module);
             fFriend = !component || component->Type() != host::vbext_ct_StdModule;
         }
@@ -291,7 +295,7 @@ void frmProperty::cboModule_Click() {
     SetControlsState();
     auto env = addin::codeEnvOf(ctx_);
     Str module = basic::Trim(Controls(u"cboModule").Text());
-    bool known = source::componentNamed(*ctx_.VBInstance, module) != nullptr;
+    bool known = !isNewEntry(module) && source::componentNamed(*ctx_.VBInstance, module) != nullptr;
     Controls(u"chkAddModuleConstant").Value(checkValue(known && source::ModuleNameConstantAdd(env, module, true)));
 }
 

@@ -176,5 +176,19 @@ TEST_F(ClassBuilder, ATakenCollectionNameLetThroughIsReportedAndTheClassStands) 
     EXPECT_NE(basic::InStr(reports[0], u"CollectionClassModuleAdd"), 0);
 }
 
+TEST_F(ClassBuilder, CopyFromTableFillsBothListsAndNothingTouchesTheProjectBeforeCreate) {
+    auto& form = open();
+    form.Controls(u"txtClassName").Text(u"clsProduct");
+    form.CopyFromTable(u"Products", {{u"ProductID", 10004}, {u"Unit Price", 5}}, false);
+    EXPECT_EQ(form.PropertiesView().Count(), 4);
+    EXPECT_EQ(form.PropertiesView().List().List(1), u"UnitPrice");
+    EXPECT_EQ(form.MethodsView().Count(), 5);
+    EXPECT_EQ(project->components().size(), 2u);
+    click(form, u"cmdCreate");
+    Str text = moduleText(u"clsProduct");
+    EXPECT_NE(basic::InStr(text, u"Set Recordset = CurrentDb.OpenRecordset(\"Products\", dbOpenDynaset)"), 0);
+    EXPECT_NE(basic::InStr(text, u".Fields(\"Unit Price\").Value = Me.UnitPrice"), 0);
+}
+
 }  // namespace
 }  // namespace quillet::builders
