@@ -41,11 +41,19 @@ void loopBlock(Context& ctx, const Str& command, const Str&) { LoopCodeInsert(ct
 // leave the code as it is until those parts are there.
 void notAvailableYet(Context&, const Str&, const Str&) {}
 
+// A builder registered under its form name, opened with the command's type as its argument.
+void openBuilder(Context& ctx, const Str& formName, const Str& type) {
+    auto routine = ctx.routines.find(formName);
+    if (routine != ctx.routines.end() && routine->second) routine->second(ctx, type);
+}
+
+void propertyBuilder(Context& ctx, const Str&, const Str& type) { openBuilder(ctx, u"frmProperty", type); }
+
 const std::vector<Route>& routes() {
     static const std::vector<Route> table = {
         {u"Dim", notAvailableYet},
         {u"Const", notAvailableYet},
-        {u"Property", notAvailableYet},
+        {u"Property", propertyBuilder},
         {u"Enum", notAvailableYet},
         {u"Type", notAvailableYet},
         {u"GoTo", notAvailableYet},

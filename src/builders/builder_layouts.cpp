@@ -5,6 +5,8 @@ namespace quillet::builders {
 void AddBuilderLayouts(dialogs::LayoutCatalog& catalog) {
     catalog.Add(u"frmProcedure", frmProcedureLayout);
     catalog.Add(u"frmArgument", frmArgumentLayout);
+    catalog.Add(u"frmProperty", frmPropertyLayout);
+    catalog.Add(u"frmClass", frmClassLayout);
 }
 
 }  // namespace quillet::builders

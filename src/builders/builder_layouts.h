@@ -7,6 +7,8 @@ namespace quillet::builders {
 
 dialogs::FormLayout frmProcedureLayout();
 dialogs::FormLayout frmArgumentLayout();
+dialogs::FormLayout frmPropertyLayout();
+dialogs::FormLayout frmClassLayout();
 
 // Adds every builder's layout to the catalogue, by form name.
 void AddBuilderLayouts(dialogs::LayoutCatalog& catalog);

@@ -1,6 +1,8 @@
 #include "builders/builder_registry.h"
 
+#include "builders/frm_class.h"
 #include "builders/frm_procedure.h"
+#include "builders/frm_property.h"
 
 namespace quillet::builders {
 
@@ -16,6 +18,8 @@ void RegisterBuilder(core::Context& ctx, const Str& formName, dialogs::FormStack
 void RegisterBuilders(core::Context& ctx) {
     // Each builder adds itself here as it comes.
     RegisterBuilder(ctx, u"frmProcedure", [&ctx](const std::vector<Str>& args) { OpenProcedureBuilder(ctx, args); });
+    RegisterBuilder(ctx, u"frmProperty", [&ctx](const std::vector<Str>& args) { OpenPropertyBuilder(ctx, args); });
+    RegisterBuilder(ctx, u"frmClass", [&ctx](const std::vector<Str>& args) { OpenClassBuilder(ctx, args); });
 }
 
 }  // namespace quillet::builders

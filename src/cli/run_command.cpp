@@ -43,6 +43,12 @@ int runCommand(const ToolOptions& options, std::ostream& out, std::ostream& err)
     core::Context ctx(session.vbe, session.platform);
     startAddin(ctx, options, err);
     addin::QuilletHandle(ctx, options.command, options.type);
+    // A command that opens a dialog waits for a user the tool does not have: nothing is written.
+    if (dialogs::Form* dialog = ctx.Forms->Top()) {
+        err << "quillet: " << basic::toUtf8(options.command) << " opens the dialog " << basic::toUtf8(dialog->Name())
+            << " (" << basic::toUtf8(dialog->Caption) << "); drive it with a UI script: quillet play SCRIPT\n";
+        return kExitUsage;
+    }
     finishSession(session, options, out);
     return kExitOk;
 }

@@ -52,6 +52,9 @@ struct Placement {
     bool multiLine = false;
     // Shown in the code editor's font (a box that holds code).
     bool codeFont = false;
+    // The tab page the placement stands on ("" for none): placements of different pages share
+    // room, as only the selected page's controls are visible, and each page reads on its own.
+    Str page;
 };
 
 struct FormLayout {

@@ -55,13 +55,16 @@ private:
     }
 
     bool isFrame(const Placement& item) { return kindOf(item, form_) == ControlKind::Frame; }
+    static bool onOtherPages(const Placement& a, const Placement& b) {
+        return !a.page.empty() && !b.page.empty() && a.page != b.page;
+    }
 
     void noOverlaps() {
         const auto& items = layout_.items;
         for (size_t i = 0; i < items.size(); ++i)
             for (size_t j = i + 1; j < items.size(); ++j) {
                 const auto &a = items[i], &b = items[j];
-                if (!a.rect.overlaps(b.rect)) continue;
+                if (!a.rect.overlaps(b.rect) || onOtherPages(a, b)) continue;
                 bool framed = (isFrame(a) && a.rect.contains(b.rect)) || (isFrame(b) && b.rect.contains(a.rect));
                 if (!framed) problem(a.name + u" overlaps " + b.name);
             }
@@ -81,7 +84,8 @@ private:
     // among the controls outside.
     const Placement* frameOf(const Placement& item) {
         for (const auto& other : layout_.items)
-            if (&other != &item && isFrame(other) && other.rect.contains(item.rect)) return &other;
+            if (&other != &item && isFrame(other) && !onOtherPages(other, item) && other.rect.contains(item.rect))
+                return &other;
         return nullptr;
     }
 
@@ -89,7 +93,8 @@ private:
         const Placement* previous = nullptr;
         for (const auto& item : layout_.items) {
             if (!takesFocus(kindOf(item, form_))) continue;
-            if (previous) {
+            // A page starts its own reading order.
+            if (previous && !onOtherPages(*previous, item)) {
                 const Placement* a = frameOf(*previous);
                 const Placement* b = frameOf(item);
                 DluRect p = previous->rect, q = item.rect;

@@ -58,12 +58,14 @@ public:
     source::colArguments& Arguments();
     // The signature of the last GenerateCode.
     const Str& ProcDefinition() const { return ProcDefinition_; }
+    // Merge the error handler template, or the hourglass pair, into the text of a procedure of
+    // this model's name and module (the property model wraps each of its procedures so).
+    void AddErrorHandler(Str& rstrCode);
+    void AddHourglass(Str& rstrCode);
 
 private:
     void BuildHourglass(bool fOn, Str& line);
-    void AddErrorHandler(Str& rstrCode);
     void AddReturnLine(Str& rstrCode);
-    void AddHourglass(Str& rstrCode);
     void CursorPositionSet(const host::VBProjectPtr& objVBProject);
     Str Indent();
 

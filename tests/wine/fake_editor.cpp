@@ -37,6 +37,8 @@ IDispatch* fake(FakeLedger& l, const host::VBProjectPtr& o) {
         [o](const Args&, const VARIANT& v) { o->Name(strOf(v)); });
     f->member(u"FileName", [o](const Args&) { return val(o->FileName()); });
     f->member(u"Protection", [o](const Args&) { return val(o->Protection()); });
+    // The editor in memory runs no code: its projects are always in design (vbext_vm_Design).
+    f->member(u"Mode", [](const Args&) { return val(2L); });
     f->member(u"VBComponents", [&l, o](const Args&) { return obj(l, o->VBComponents()); });
     f->member(u"References", [&l, o](const Args&) { return obj(l, o->References()); });
     return f;

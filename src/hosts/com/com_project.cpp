@@ -1,5 +1,6 @@
 // The editor, its projects, references and components over COM.
 
+#include "host/project_mode.h"
 #include "hosts/com/com_host.h"
 #include "hosts/com/com_object.h"
 
@@ -35,13 +36,14 @@ public:
     host::VBProjectPtr Item(long index) override { return makeVBProject(d_.getObject(u"Item", {arg(index)})); }
 };
 
-class ComVBProject : public host::VBProject, public ComObject {
+class ComVBProject : public host::VBProject, public host::ProjectModeSource, public ComObject {
 public:
     using ComObject::ComObject;
     Str Name() override { return d_.getStr(u"Name"); }
     void Name(const Str& name) override { d_.put(u"Name", arg(name)); }
     Str FileName() override { return d_.getStr(u"FileName"); }
     long Protection() override { return d_.getLong(u"Protection"); }
+    long Mode() override { return d_.getLong(u"Mode"); }
     host::VBComponentsPtr VBComponents() override { return makeVBComponents(d_.getObject(u"VBComponents")); }
     host::ReferencesPtr References() override { return makeReferences(d_.getObject(u"References")); }
 };

@@ -1,0 +1,48 @@
+// The Class Builder driven by the UI scripts of tests/builders/scripts/class: the class and its
+// collection class compared byte for byte with what each script expects.
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "hosts/files/file_project.h"
+#include "property_fixture.h"
+
+namespace quillet::testing {
+namespace {
+
+class ClassScripts : public PropertyFixture, public ::testing::WithParamInterface<std::string> {
+protected:
+    ClassScripts() {
+        hosts::files::installFileImportExport(*vbe);
+        std::filesystem::create_directories(dir / "tmp");
+        platform->setTempFolder(settings().Files.systemPath(dir / "tmp") + u"\\");
+        set(settings::iiCollectionClassTemplate, u"Templates\\CollectionClass.cls");
+        std::ifstream shipped(
+            std::filesystem::path(QUILLET_SOURCE_DIR) / "data/quillet/Templates/CollectionClass/CollectionClass.cls",
+            std::ios::binary);
+        std::ostringstream bytes;
+        bytes << shipped.rdbuf();
+        write("Templates/CollectionClass.cls", bytes.str());
+    }
+};
+
+TEST_P(ClassScripts, LeaveTheExpectedModuleText) {
+    std::string script = scriptFile(GetParam());
+    ASSERT_FALSE(script.empty()) << GetParam();
+    auto outcome = play(script);
+    EXPECT_TRUE(outcome.passed()) << GetParam() << ": " << basic::toUtf8(outcome.describe());
+    EXPECT_TRUE(std::filesystem::is_empty(dir / "tmp"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Class, ClassScripts, ::testing::ValuesIn(PropertyFixture::scriptsIn("class")),
+                         [](const ::testing::TestParamInfo<std::string>& info) {
+                             std::string name = info.param.substr(info.param.find('/') + 1);
+                             name = name.substr(0, name.size() - 4);
+                             std::replace_if(name.begin(), name.end(),
+                                             [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
+                             return name;
+                         });
+
+}  // namespace
+}  // namespace quillet::testing
