@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "generated_project.h"
-#include "addin/context.h"
+#include "core/context.h"
 #include "addin/lifecycle.h"
 #include "hosts/fault/fault_plan.h"
 #include "platform/scripted_platform.h"
@@ -33,7 +33,7 @@ struct Opening {
     std::vector<std::pair<long, std::string>> busiest;
 };
 
-Opening timeOpening(addin::Context& ctx, hosts::fault::FaultPlan& plan, const basic::Str& form) {
+Opening timeOpening(core::Context& ctx, hosts::fault::FaultPlan& plan, const basic::Str& form) {
     Opening result;
     std::vector<double> times;
     for (int run = 0; run < kRuns && result.opened; ++run) {
@@ -70,7 +70,7 @@ int main() {
     // The caret on a word of the first module's third line.
     vbe->openPane(first)->SetSelection(3, 5, 3, 5);
     auto plan = std::make_shared<hosts::fault::FaultPlan>();
-    addin::Context ctx(hosts::fault::wrapVBE(vbe, plan), std::make_shared<platform::ScriptedPlatform>());
+    core::Context ctx(hosts::fault::wrapVBE(vbe, plan), std::make_shared<platform::ScriptedPlatform>());
     ctx.IniSettings->SettingsFolder = folder.string();
     addin::AddInInitialize(ctx, false);
     addin::ProjectInitialize(ctx, true);

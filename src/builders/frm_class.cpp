@@ -1,6 +1,6 @@
 #include "builders/frm_class.h"
 
-#include "addin/err_handler.h"
+#include "core/err_handler.h"
 #include "source/code_env.h"
 
 namespace quillet::builders {
@@ -25,7 +25,7 @@ const std::vector<std::vector<const char16_t*>>& pages() {
 
 }  // namespace
 
-frmClass::frmClass(addin::Context& ctx)
+frmClass::frmClass(core::Context& ctx)
     : Form(u"frmClass"), ctx_(ctx), class_(std::make_unique<generators::clsClass>(ctx)) {
     Caption = u"Class Builder";
     addControls();
@@ -101,7 +101,7 @@ void frmClass::hookEvents() {
 }
 
 void frmClass::guard(const Str& method, const std::function<void()>& statement) {
-    addin::guarded(ctx_, u"frmClass." + method, statement);
+    core::guarded(ctx_, u"frmClass." + method, statement);
 }
 
 void frmClass::Init() {

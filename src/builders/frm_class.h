@@ -19,7 +19,7 @@ inline constexpr char16_t kTabMethods[] = u"Methods";
 
 class frmClass : public dialogs::Form, public PropertyOwner, public MethodOwner {
 public:
-    explicit frmClass(addin::Context& ctx);
+    explicit frmClass(core::Context& ctx);
     ~frmClass() override;
 
     void Init();
@@ -71,7 +71,7 @@ private:
     void listsStateSet();
     void guard(const Str& method, const std::function<void()>& statement);
 
-    addin::Context& ctx_;
+    core::Context& ctx_;
     support::clsHtmlHelpForForm help_;
     std::unique_ptr<generators::clsClass> class_;
     std::unique_ptr<dialogs::ListView> lvProperties_, lvMethods_;
@@ -81,6 +81,6 @@ private:
 };
 
 // Opens the Class Builder as "Add Class..." does.
-void OpenClassBuilder(addin::Context& ctx, const std::vector<Str>& args);
+void OpenClassBuilder(core::Context& ctx, const std::vector<Str>& args);
 
 }  // namespace quillet::builders

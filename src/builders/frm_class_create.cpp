@@ -1,7 +1,7 @@
 // The Class Builder's Create: both names checked, then the class made in the project.
 
-#include "addin/err_handler.h"
-#include "addin/scan_commands.h"
+#include "core/err_handler.h"
+#include "core/command_env.h"
 #include "builders/frm_class.h"
 #include "source/code_env.h"
 #include "source/name_checks.h"
@@ -42,9 +42,9 @@ bool frmClass::cmdCreate_Click() {
     return true;
 }
 
-void OpenClassBuilder(addin::Context& ctx, const std::vector<Str>&) {
-    addin::guarded(ctx, u"frmClass.Open", [&] {
-        addin::ProjectRefresh(ctx);
+void OpenClassBuilder(core::Context& ctx, const std::vector<Str>&) {
+    core::guarded(ctx, u"frmClass.Open", [&] {
+        core::ProjectRefresh(ctx);
         auto& form = ctx.Forms->Adopt(std::make_unique<frmClass>(ctx));
         form.Init();
         form.Show(ctx.ShowMode);

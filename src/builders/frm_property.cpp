@@ -1,7 +1,7 @@
 #include "builders/frm_property.h"
 
-#include "addin/err_handler.h"
-#include "addin/scan_commands.h"
+#include "core/err_handler.h"
+#include "core/command_env.h"
 #include "settings/ini_vars.h"
 #include "source/char_class.h"
 #include "source/code_placing.h"
@@ -60,7 +60,7 @@ void PropertyCopy(const generators::clsProperty& from, generators::clsProperty& 
     to.ID = id;
 }
 
-frmProperty::frmProperty(addin::Context& ctx)
+frmProperty::frmProperty(core::Context& ctx)
     : Form(u"frmProperty"), ctx_(ctx), property_(std::make_unique<generators::clsProperty>(ctx)) {
     Caption = u"Property Builder";
     addControls();
@@ -122,13 +122,13 @@ void frmProperty::hookEvents() {
 }
 
 void frmProperty::guard(const Str& method, const std::function<void()>& statement) {
-    addin::guarded(ctx_, u"frmProperty." + method, statement);
+    core::guarded(ctx_, u"frmProperty." + method, statement);
 }
 
 PropertyOwner* frmProperty::classOwner() { return dynamic_cast<PropertyOwner*>(ParentForm); }
 
 void frmProperty::Init(const Str& type) {
-    auto env = addin::codeEnvOf(ctx_);
+    auto env = core::codeEnvOf(ctx_);
     auto& types = Controls(u"cboDataType");
     guard(u"Init", [&] { source::DataTypeList(env, types, false, type.empty() ? Str(u"String") : type); });
     guard(u"Init", [this] { GetOptions(); });
@@ -293,7 +293,7 @@ void frmProperty::txtName_Change() {
 void frmProperty::cboModule_Click() {
     if (moduleQuiet_) return;
     SetControlsState();
-    auto env = addin::codeEnvOf(ctx_);
+    auto env = core::codeEnvOf(ctx_);
     Str module = basic::Trim(Controls(u"cboModule").Text());
     bool known = !isNewEntry(module) && source::componentNamed(*ctx_.VBInstance, module) != nullptr;
     Controls(u"chkAddModuleConstant").Value(checkValue(known && source::ModuleNameConstantAdd(env, module, true)));

@@ -34,7 +34,7 @@ void PropertyCopy(const generators::clsProperty& from, generators::clsProperty& 
 
 class frmProperty : public dialogs::Form {
 public:
-    explicit frmProperty(addin::Context& ctx);
+    explicit frmProperty(core::Context& ctx);
     ~frmProperty() override;
 
     // Called before the dialog shows; `type`, when given, is selected in the type list.
@@ -79,7 +79,7 @@ private:
     void ResetControls();
     void guard(const Str& method, const std::function<void()>& statement);
 
-    addin::Context& ctx_;
+    core::Context& ctx_;
     support::clsHtmlHelpForForm help_;
     std::unique_ptr<generators::clsProperty> property_;
     Str errorHandlerSetting_;
@@ -94,6 +94,6 @@ private:
 
 // Opens the Property Builder as "Add Property..." does; an argument is the type to select (the
 // "Property" pop-up's typed entries).
-void OpenPropertyBuilder(addin::Context& ctx, const std::vector<Str>& args);
+void OpenPropertyBuilder(core::Context& ctx, const std::vector<Str>& args);
 
 }  // namespace quillet::builders

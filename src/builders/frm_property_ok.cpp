@@ -1,8 +1,8 @@
 // The Property Builder's OK: the model filled from the controls, the name and module checked,
 // and only then the class module written (or, in class mode, the class's properties updated).
 
-#include "addin/err_handler.h"
-#include "addin/scan_commands.h"
+#include "core/err_handler.h"
+#include "core/command_env.h"
 #include "builders/frm_property.h"
 #include "builders/name_answer.h"
 #include "source/code_placing.h"
@@ -82,7 +82,7 @@ bool frmProperty::nameAccepted(const Str& name) {
 // asks whether to make it; made now, after every other check has passed.
 bool frmProperty::moduleResolved() {
     auto& p = *property_;
-    auto env = addin::codeEnvOf(ctx_);
+    auto env = core::codeEnvOf(ctx_);
     Str m = p.ModuleName;
     if (is(m, source::kNewClassModule)) {
         auto answer = InputBox(u"Name of Class Module", source::kProductTitle);
@@ -119,7 +119,7 @@ void frmProperty::pickedWordReplace() {
     }
     if (start == 0) return;
     active->SetSelection(pickedLine_, start, pickedLine_, start + basic::Len(word));
-    auto env = addin::codeEnvOf(ctx_);
+    auto env = core::codeEnvOf(ctx_);
     source::InstanceAdd(env, active, property_->Name);
 }
 
@@ -150,15 +150,15 @@ bool frmProperty::PressOK() {
     if (!moduleResolved()) return false;
     pickedWordReplace();
     if (p.ModuleNameConstant) {
-        auto env = addin::codeEnvOf(ctx_);
+        auto env = core::codeEnvOf(ctx_);
         source::ModuleNameConstantAdd(env, p.ModuleName, false);
     }
     return generators::BuildPropCodeLines(ctx_, p, AddProcedureToEndOfModule);
 }
 
-void OpenPropertyBuilder(addin::Context& ctx, const std::vector<Str>& args) {
-    addin::guarded(ctx, u"frmProperty.Open", [&] {
-        addin::ProjectRefresh(ctx);
+void OpenPropertyBuilder(core::Context& ctx, const std::vector<Str>& args) {
+    core::guarded(ctx, u"frmProperty.Open", [&] {
+        core::ProjectRefresh(ctx);
         auto& form = ctx.Forms->Adopt(std::make_unique<frmProperty>(ctx));
         form.Init(args.empty() ? Str() : args[0]);
         form.Show(ctx.ShowMode);

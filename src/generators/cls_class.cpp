@@ -2,8 +2,8 @@
 
 #include "generators/cls_class.h"
 
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "fragments/placeholders.h"
 #include "fragments/set_cursor.h"
 #include "host/project_mode.h"
@@ -30,7 +30,7 @@ colProcedures& clsClass::Methods() {
 
 void clsClass::GenerateCode(Str& text) {
     text.clear();
-    addin::guarded(*ctx_, u"clsClass.GenerateCode", [&] {
+    core::guarded(*ctx_, u"clsClass.GenerateCode", [&] {
         // Nothing in this build asks for a New in Class_Initialize, so the list stays empty.
         std::vector<clsPropertyPtr> initialized;
         Str desc = Description.empty() ? Str() : kCrLf + source::WrapText(Description);
@@ -60,7 +60,7 @@ void clsClass::GenerateCode(Str& text) {
 }
 
 void clsClass::ClassInitializeCode(const std::vector<clsPropertyPtr>& list, Str& text) {
-    Str indent = addin::TabSpaces(*ctx_);
+    Str indent = core::TabSpaces(*ctx_);
     // The declaration ends its line, so that each Set stands on a line of its own.
     text = Str(kCrLf) + u"Private Sub Class_Initialize()" + kCrLf;
     for (const auto& property : list) text += indent + u"Set " + property->Name + u" = New " + property->datatype + kCrLf;
@@ -68,7 +68,7 @@ void clsClass::ClassInitializeCode(const std::vector<clsPropertyPtr>& list, Str&
 }
 
 void clsClass::Create(const host::VBProjectPtr& objVBProject) {
-    addin::guarded(*ctx_, u"clsClass.Create", [&] {
+    core::guarded(*ctx_, u"clsClass.Create", [&] {
         if (!objVBProject) return;
         if (host::ProjectMode(*objVBProject) != host::vbext_vm_Design) return;
         Str text;
@@ -80,7 +80,7 @@ void clsClass::Create(const host::VBProjectPtr& objVBProject) {
             comp->Name(Name);
         } catch (...) {
             // A name the editor refuses leaves no empty class behind.
-            addin::ignoringErrors([&] { components->Remove(comp); });
+            core::ignoringErrors([&] { components->Remove(comp); });
             throw;
         }
         comp->CodeModule()->AddFromString(text);

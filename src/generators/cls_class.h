@@ -10,7 +10,7 @@ namespace quillet::generators {
 
 class clsClass {
 public:
-    explicit clsClass(addin::Context& ctx) : ctx_(&ctx) {}
+    explicit clsClass(core::Context& ctx) : ctx_(&ctx) {}
 
     Str Name;
     Str Description;
@@ -40,7 +40,7 @@ private:
     Str collectionClassText(const Str& path);
     void importedRename(const host::VBComponentsPtr& components, const host::VBComponentPtr& comp);
 
-    addin::Context* ctx_;
+    core::Context* ctx_;
     std::unique_ptr<colProperties> Properties_;
     std::unique_ptr<colProcedures> Methods_;
 };

@@ -2,8 +2,8 @@
 // temporary folder and imported, so that its attributes (the default member, the enumerator)
 // come along as only an import can set them.
 
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "fragments/placeholders.h"
 #include "generators/cls_class.h"
 #include "settings/cls_file.h"
@@ -27,7 +27,7 @@ Str clsClass::collectionClassText(const Str& path) {
     if (t.empty()) return t;
     t = basic::Replace(t, u"{MODULENAME}", CollectionClassName, 1, -1, Compare::Text);
     t = basic::Replace(t, u"{BASECLASSNAME}", Name, 1, -1, Compare::Text);
-    Str indent = addin::TabSpaces(*ctx_);
+    Str indent = core::TabSpaces(*ctx_);
     if (indent != u"    ") t = basic::Replace(t, u"    ", indent, 1, -1, Compare::Binary);
     if (basic::InStr(1, t, u"{MODULEHEADER}", Compare::Text) > 0) {
         Str header = fragments::ExpandHeader(*ctx_, fragments::kModuleHeader, CollectionClassName,
@@ -43,14 +43,14 @@ void clsClass::importedRename(const host::VBComponentsPtr& components, const hos
     try {
         comp->Name(CollectionClassName);
     } catch (...) {
-        addin::ignoringErrors([&] { components->Remove(comp); });
+        core::ignoringErrors([&] { components->Remove(comp); });
         throw;
     }
 }
 
 void clsClass::CollectionClassModuleAdd(bool& ok) {
     ok = false;
-    addin::guarded(*ctx_, u"clsClass.CollectionClassModuleAdd", [&] {
+    core::guarded(*ctx_, u"clsClass.CollectionClassModuleAdd", [&] {
         auto& settings = *ctx_->IniSettings;
         Str path = settings::CollectionClassTemplate(settings);
         if (path.empty()) return;

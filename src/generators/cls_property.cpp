@@ -2,8 +2,8 @@
 
 #include "generators/cls_property.h"
 
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "fragments/placeholders.h"
 #include "generators/cls_procedure.h"
 #include "settings/ini_vars.h"
@@ -32,7 +32,7 @@ Str asType(const Str& type) { return type.empty() ? Str() : u" As " + type; }
 
 }  // namespace
 
-Str clsProperty::Indent() { return addin::TabSpaces(*ctx_); }
+Str clsProperty::Indent() { return core::TabSpaces(*ctx_); }
 
 clsProperty::Kind clsProperty::kind() const {
     if (isBaseType(datatype)) return Kind::Base;
@@ -117,7 +117,7 @@ void clsProperty::PropertySetObject(Str& code, const Str& var) {
 
 void clsProperty::PropertyProceduresCodeCreate(bool vblnGet, bool vblnSet, Str& rstrCode) {
     rstrCode.clear();
-    addin::guarded(*ctx_, u"clsProperty.PropertyProceduresCodeCreate", [&] {
+    core::guarded(*ctx_, u"clsProperty.PropertyProceduresCodeCreate", [&] {
         Str v = PrivPropVarName();
         Kind k = kind();
         Str procedure;
@@ -143,7 +143,7 @@ void clsProperty::PropertyProceduresCodeCreate(bool vblnGet, bool vblnSet, Str& 
 }
 
 void clsProperty::CodeFragmentsAdd(Str& rstrCode) {
-    addin::guarded(*ctx_, u"clsProperty.CodeFragmentsAdd", [&] {
+    core::guarded(*ctx_, u"clsProperty.CodeFragmentsAdd", [&] {
         clsProcedure procedure(*ctx_);
         procedure.Name = Name;
         procedure.ModuleName = ModuleName;

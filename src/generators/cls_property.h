@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "addin/context.h"
+#include "core/context.h"
 #include "source/record_collections.h"
 
 namespace quillet::generators {
@@ -14,7 +14,7 @@ using basic::Str;
 
 class clsProperty {
 public:
-    explicit clsProperty(addin::Context& ctx) : ctx_(&ctx) {}
+    explicit clsProperty(core::Context& ctx) : ctx_(&ctx) {}
 
     Str Name;
     Str ID;              // key in colProperties
@@ -59,7 +59,7 @@ private:
     void CodeFragmentsAdd(Str& rstrCode);
     Str Indent();
 
-    addin::Context* ctx_;
+    core::Context* ctx_;
 };
 
 using clsPropertyPtr = std::shared_ptr<clsProperty>;
@@ -71,6 +71,6 @@ using colProperties = source::RandomKeyedCollection<clsProperty, &clsProperty::I
 // declarations; the procedures at the end of the module (blnToEndOfModule), or behind the
 // procedure at the caret when that module's pane has one, or else right behind the declaration.
 // True when it has inserted.
-bool BuildPropCodeLines(addin::Context& ctx, clsProperty& rProperty, bool blnToEndOfModule);
+bool BuildPropCodeLines(core::Context& ctx, clsProperty& rProperty, bool blnToEndOfModule);
 
 }  // namespace quillet::generators

@@ -1,6 +1,6 @@
 // A property's declaration and procedures into its module.
 
-#include "addin/err_handler.h"
+#include "core/err_handler.h"
 #include "basic/strings.h"
 #include "generators/cls_property.h"
 #include "source/current_proc.h"
@@ -13,7 +13,7 @@ constexpr char16_t kCrLf[] = u"\r\n";
 
 // The last line of the procedure at the caret, when the active pane shows `module` and its caret
 // stands in a procedure; 0 otherwise.
-long procedureAtCaretEnd(addin::Context& ctx, const Str& module) {
+long procedureAtCaretEnd(core::Context& ctx, const Str& module) {
     auto pane = ctx.VBInstance->ActiveCodePane();
     if (!pane || basic::StrComp(pane->CodeModule()->Parent()->Name(), module, basic::Compare::Text) != 0) return 0;
     Str name;
@@ -36,9 +36,9 @@ Str codeBefore(host::CodeModule& m, long line, const Str& code) {
 
 }  // namespace
 
-bool BuildPropCodeLines(addin::Context& ctx, clsProperty& rProperty, bool blnToEndOfModule) {
+bool BuildPropCodeLines(core::Context& ctx, clsProperty& rProperty, bool blnToEndOfModule) {
     bool inserted = false;
-    addin::guarded(ctx, u"clsProperty.BuildPropCodeLines", [&] {
+    core::guarded(ctx, u"clsProperty.BuildPropCodeLines", [&] {
         auto m = ctx.VBInstance->ActiveVBProject()->VBComponents()->Item(rProperty.ModuleName)->CodeModule();
         Str declaration = rProperty.Declaration();
         Str code;

@@ -2,8 +2,8 @@
 
 #include "generators/record_class.h"
 
-#include "addin/caret.h"
-#include "addin/err_handler.h"
+#include "core/caret.h"
+#include "core/err_handler.h"
 #include "source/type_lists.h"
 
 namespace quillet::generators {
@@ -39,7 +39,7 @@ bool named(C& members, const Str& name) {
     return false;
 }
 
-void propertyAdd(addin::Context& ctx, clsClass& c, const Str& name, const Str& type, const Str& access, long dataType2) {
+void propertyAdd(core::Context& ctx, clsClass& c, const Str& name, const Str& type, const Str& access, long dataType2) {
     if (named(c.Properties(), name)) return;
     auto property = std::make_shared<clsProperty>(ctx);
     property->Name = name;
@@ -50,18 +50,18 @@ void propertyAdd(addin::Context& ctx, clsClass& c, const Str& name, const Str& t
 }
 
 // A method whose text is given; it ends in a blank line, as the generated ones do.
-void methodAdd(addin::Context& ctx, clsClass& c, const Str& name, const Str& access, const Str& text) {
+void methodAdd(core::Context& ctx, clsClass& c, const Str& name, const Str& access, const Str& text) {
     if (named(c.Methods(), name)) return;
     auto method = std::make_shared<clsProcedure>(ctx);
     method->Name = name;
     method->AccessibleType = access;
     method->ProcType = name == u"FindFirst" ? u"Function" : u"Sub";
-    method->ProcContent(replaced(text, u"[Indent]", addin::TabSpaces(ctx)) + kCrLf);
+    method->ProcContent(replaced(text, u"[Indent]", core::TabSpaces(ctx)) + kCrLf);
     c.Methods().Add(method);
 }
 
 // Load and Update: a line per field whose property the class has.
-void MethodsFromTable(addin::Context& ctx, clsClass& c, const std::vector<Str>& names, const std::vector<Str>& fields,
+void MethodsFromTable(core::Context& ctx, clsClass& c, const std::vector<Str>& names, const std::vector<Str>& fields,
                       bool blnAdo) {
     Str loaded;
     for (const auto& property : c.Properties().Items)
@@ -85,9 +85,9 @@ void MethodsFromTable(addin::Context& ctx, clsClass& c, const std::vector<Str>& 
 
 }  // namespace
 
-bool ProjectIsAdo(addin::Context& ctx) {
+bool ProjectIsAdo(core::Context& ctx) {
     bool ado = false;
-    addin::ignoringErrors([&] {
+    core::ignoringErrors([&] {
         if (!ctx.AccessApp()) return;
         auto project = basic::CObj(ctx.AccessApp()->Get(u"CurrentProject"));
         ado = project && basic::CStr(project->Get(u"ProjectType")) == u"1";
@@ -111,9 +111,9 @@ Str FieldTypeName(long number) {
     }
 }
 
-void RecordClassFromTable(addin::Context& ctx, clsClass& rClass, const Str& table, const std::vector<TableField>& fields,
+void RecordClassFromTable(core::Context& ctx, clsClass& rClass, const Str& table, const std::vector<TableField>& fields,
                           bool blnAdo) {
-    addin::guarded(ctx, u"MethodsFromTable", [&] {
+    core::guarded(ctx, u"MethodsFromTable", [&] {
         std::vector<Str> names, fieldNames;
         for (const auto& field : fields) {
             Str n = source::MakeValidName(field.Name);
@@ -125,7 +125,7 @@ void RecordClassFromTable(addin::Context& ctx, clsClass& rClass, const Str& tabl
         propertyAdd(ctx, rClass, u"Recordset", u"Recordset", u"Private", 0);
         propertyAdd(ctx, rClass, u"Loaded", u"Boolean", u"Private", 0);
         MethodsFromTable(ctx, rClass, names, fieldNames, blnAdo);
-        Str indent = addin::TabSpaces(ctx);
+        Str indent = core::TabSpaces(ctx);
         Str open = blnAdo ? indent + u"Set Recordset = New Recordset" + kCrLf + indent + u"Recordset.Open \"" + table +
                                 u"\", CurrentProject.Connection, adOpenKeyset, adLockOptimistic" + kCrLf
                           : indent + u"Set Recordset = CurrentDb.OpenRecordset(\"" + table + u"\", dbOpenDynaset)";

@@ -23,12 +23,12 @@ Str FieldTypeName(long number);
 
 // An Access project whose data comes through ADO (CurrentProject.ProjectType 1, an ADP); any other
 // project, and any other host, counts as a DAO one.
-bool ProjectIsAdo(addin::Context& ctx);
+bool ProjectIsAdo(core::Context& ctx);
 
 // Adds to the class a property for each field whose name makes a valid name (a name the class
 // has already is passed over), the two helpers, and the record methods (a method the class has
 // already stays as it is).
-void RecordClassFromTable(addin::Context& ctx, clsClass& rClass, const Str& table, const std::vector<TableField>& fields,
+void RecordClassFromTable(core::Context& ctx, clsClass& rClass, const Str& table, const std::vector<TableField>& fields,
                           bool blnAdo);
 
 }  // namespace quillet::generators

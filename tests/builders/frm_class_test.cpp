@@ -47,7 +47,7 @@ protected:
 };
 
 TEST_F(ClassBuilder, OpensFromTheCommandBarsRoutine) {
-    addin::RoutineRun(*ctx, u"frmClass");
+    core::RoutineRun(*ctx, u"frmClass");
     ASSERT_NE(ctx->Forms->Top(), nullptr);
     EXPECT_EQ(ctx->Forms->Top()->Name(), u"frmClass");
     EXPECT_TRUE(ctx->Forms->Top()->IsModal());

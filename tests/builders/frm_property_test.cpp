@@ -15,7 +15,7 @@ namespace {
 // A Class Builder as far as the Property Builder sees it.
 class FakeClassBuilder : public dialogs::Form, public PropertyOwner {
 public:
-    explicit FakeClassBuilder(addin::Context& ctx) : Form(u"frmClass"), ctx_(ctx) {}
+    explicit FakeClassBuilder(core::Context& ctx) : Form(u"frmClass"), ctx_(ctx) {}
     Str ClassName() override { return u"clsInvoice"; }
     generators::clsProperty* SelectedProperty() override { return selected; }
     generators::colProperties& Properties() override { return properties; }
@@ -25,7 +25,7 @@ public:
         lastSelected = selectLast;
     }
 
-    addin::Context& ctx_;
+    core::Context& ctx_;
     generators::colProperties properties;
     generators::colProcedures methods;
     generators::clsProperty* selected = nullptr;
@@ -54,7 +54,7 @@ protected:
 };
 
 TEST_F(PropertyBuilder, OpensFromTheCommandBarsRoutine) {
-    addin::RoutineRun(*ctx, u"frmProperty");
+    core::RoutineRun(*ctx, u"frmProperty");
     ASSERT_NE(ctx->Forms->Top(), nullptr);
     EXPECT_EQ(ctx->Forms->Top()->Name(), u"frmProperty");
     EXPECT_TRUE(ctx->Forms->Top()->IsModal());
