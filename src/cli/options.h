@@ -33,7 +33,7 @@ struct SelectionSpec {
     long startLine = 1, startColumn = 1, endLine = 1, endColumn = 1;
 };
 
-enum class Verb { Help, Version, Run, List, Play, Settings, Scan };
+enum class Verb { Help, Version, Run, List, Play, Settings, Scan, Html };
 
 struct ToolOptions {
     Verb verb = Verb::Help;
@@ -52,6 +52,7 @@ struct ToolOptions {
     std::optional<Str> scanModule;        // scan: --module NAME
     std::vector<Str> settingChange;       // settings set: SECTION, KEY and VALUE; empty to print
     std::optional<hosts::files::CodePage> codePage;
+    std::optional<std::string> output;    // html: --output FILE (standard output without)
 };
 
 // The arguments after the program's name. Throws UsageError.

@@ -42,7 +42,10 @@ int runCommand(const ToolOptions& options, std::ostream& out, std::ostream& err)
     ProjectSession session = openSession(options);
     addin::Context ctx(session.vbe, session.platform);
     startAddin(ctx, options, err);
-    addin::QuilletHandle(ctx, options.command, options.type);
+    if (options.command == u"Line Numbers Add" || options.command == u"Line Numbers Remove")
+        addin::LineNumbers(ctx, options.command == u"Line Numbers Add" ? 0 : 1);
+    else
+        addin::QuilletHandle(ctx, options.command, options.type);
     finishSession(session, options, out);
     return kExitOk;
 }
