@@ -18,6 +18,10 @@ struct ToolScenario {
     long startLine, startCol, endLine, endCol;
 };
 
+void PrintTo(const ToolScenario& s, std::ostream* os) {
+    *os << s.name << " on " << s.startLine << ":" << s.startCol << "-" << s.endLine << ":" << s.endCol;
+}
+
 const std::vector<Str> kPlain = {u"Option Explicit", u"", u"Public Function Total() As Long", u"    Dim x As Long",
                                  u"    x = 1", u"    If x Then", u"        x = 2", u"    End If", u"End Function"};
 const std::vector<Str> kNumbered = {u"Option Explicit", u"", u"Public Function Total() As Long", u"    Dim x As Long",
