@@ -12,6 +12,7 @@
 #include "fragments/services.h"
 #include "source/keywords.h"
 #include "source/scan_project.h"
+#include "tools/tools_install.h"
 
 namespace quillet::addin {
 
@@ -31,6 +32,7 @@ void AddInInitialize(Context& ctx, bool firstStartRun) noexcept {
     guarded(ctx, where, [&] { RegisterScanCommands(ctx); });
     guarded(ctx, where, [&] { fragments::FragmentServicesInstall(ctx); });
     guarded(ctx, where, [&] { builders::RegisterBuilders(ctx); });
+    guarded(ctx, where, [&] { tools::ToolsInstall(ctx); });
 }
 
 void AddInTerminate(Context& ctx) noexcept {

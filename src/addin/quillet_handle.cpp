@@ -6,6 +6,7 @@
 #include "addin/core_names.h"
 #include "core/caret.h"
 #include "core/err_handler.h"
+#include "addin/command_handlers.h"
 #include "addin/procedure_commands.h"
 #include "addin/project_commands.h"
 #include "core/command_env.h"
@@ -36,6 +37,9 @@ void folder(Context& ctx, const Str&, const Str&) { FoldernameAdd(ctx); }
 
 void ifBlock(Context& ctx, const Str& command, const Str&) { IfCodeInsert(ctx, command); }
 void loopBlock(Context& ctx, const Str& command, const Str&) { LoopCodeInsert(ctx, command); }
+
+// The commands of the source tools, registered under their command words.
+void toolRoutine(Context& ctx, const Str& command, const Str&) { RoutineRun(ctx, command); }
 
 // The commands whose dialogs, scans or tools are built elsewhere: they are known words and
 // leave the code as it is until those parts are there.
@@ -86,8 +90,8 @@ const std::vector<Route>& routes() {
         {u"Explicit Argument", explicitArgument},
         {u"Filename", filename},
         {u"Folder", folder},
-        {u"Comment Lines Add", notAvailableYet},
-        {u"Comment Lines Remove", notAvailableYet},
+        {u"Comment Lines Add", toolRoutine},
+        {u"Comment Lines Remove", toolRoutine},
         {u"Insert Objectname", notAvailableYet},
     };
     return table;

@@ -23,6 +23,7 @@ constexpr const char* kToolHelp =
     "  settings show the settings, or change one (quillet settings set ...)\n"
     "  scan     show what the scans see of a project, a module or a procedure\n"
     "  typelib  show what a type library offers: groups, procedures, enums, classes\n"
+    "  html     write a module as a page of coloured HTML\n"
     "  help     show the help of a command (quillet help run)\n"
     "  version  show the version\n"
     "\n"
@@ -44,7 +45,8 @@ constexpr const char* kRunHelp =
     "\n"
     "Runs a quick command (\"If Then\", \"If Then Else\", \"ForNext\", \"On Error Resume Next\"\n"
     "...) with the caret at PLACE, as if typed in the editor, then writes the changed files\n"
-    "and prints their names, one a line.\n"
+    "and prints their names, one a line. \"Line Numbers Add\", \"Line Numbers Remove\",\n"
+    "\"Comment Lines Add\" and \"Comment Lines Remove\" work on the selected lines.\n"
     "\n"
     "Options:\n"
     "  --project PATH        the project: a folder, or a .vbp file\n"
@@ -130,6 +132,23 @@ constexpr const char* kTypelibHelp =
     "\n"
     "Example:\n"
     "  quillet typelib /usr/lib/x86_64-linux-gnu/wine/x86_64-windows/stdole2.tlb\n";
+constexpr const char* kHtmlHelp =
+    "Usage: quillet html --project PATH --module NAME [--output FILE] [--data DIR] [--code-page CP]\n"
+    "\n"
+    "Writes the module as an HTML page (UTF-8): keywords dark blue, functions black,\n"
+    "comments green, in Courier New. The page is vb2htmltemplate.htm of the data folder\n"
+    "when there is one, its [modulename], [procedurename], [title], [charset] and [code]\n"
+    "filled in; otherwise a plain page.\n"
+    "\n"
+    "Options:\n"
+    "  --module NAME         the module\n"
+    "  --output FILE         the page's file, written whole or not at all (else standard\n"
+    "                        output)\n"
+    "  --data DIR            the folder of the template (else the data folder found near\n"
+    "                        the tool)\n"
+    "\n"
+    "Example:\n"
+    "  quillet html --project examples/Invoicing --module basMain --output basMain.htm\n";
 
 }  // namespace
 
@@ -141,6 +160,7 @@ std::string helpText(Verb verb) {
         case Verb::Settings: return settingsHelpText();
         case Verb::Scan: return kScanHelp;
         case Verb::Typelib: return kTypelibHelp;
+        case Verb::Html: return kHtmlHelp;
         default: return kToolHelp;
     }
 }

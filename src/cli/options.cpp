@@ -42,7 +42,7 @@ std::pair<Str, std::string> modulePart(const std::string& text, const std::strin
 Verb verbNamed(const std::string& word) {
     static const std::map<std::string, Verb> verbs = {
         {"run", Verb::Run}, {"list", Verb::List}, {"play", Verb::Play}, {"help", Verb::Help}, {"version", Verb::Version},
-        {"settings", Verb::Settings}, {"scan", Verb::Scan}, {"typelib", Verb::Typelib}};
+        {"settings", Verb::Settings}, {"scan", Verb::Scan}, {"typelib", Verb::Typelib}, {"html", Verb::Html}};
     auto found = verbs.find(word);
     if (found == verbs.end()) throw UsageError("unknown command \"" + word + "\"");
     return found->second;
@@ -82,7 +82,7 @@ private:
         }
         static const std::set<std::string> valued = {"--project",  "--at",        "--select", "--answer",
                                                      "--settings", "--code-page", "--data",
-                                                     "--module",
+                                                     "--module", "--output",
                                                      "--typelib-path"};
         if (!valued.count(name)) throw UsageError("unknown option " + name);
         std::string value = inlineValue ? *inlineValue : next(name);
@@ -100,8 +100,8 @@ private:
             options_.data = value;
         } else if (name == "--module") {
             options_.scanModule = basic::fromUtf8(value);
-        } else if (name == "--typelib-path") {
-            options_.typelibPath.push_back(value);
+                                                     "--module", "--output",
+                                                     "--typelib-path"};
         } else if (name == "--code-page") {
             options_.codePage = hosts::files::codePageNamed(value);
             if (!options_.codePage) throw UsageError("unknown code page \"" + value + "\" (use 1252 or 65001)");
@@ -178,6 +178,15 @@ void checkList(const ToolOptions& options, const std::vector<std::string>& posit
     }
 }
 
+void checkHtml(const ToolOptions& options, const std::vector<std::string>& positionals) {
+    if (!positionals.empty()) throw UsageError("html takes no arguments; unexpected \"" + positionals[0] + "\"");
+    if (!options.project) throw UsageError("html needs --project PATH");
+    if (!options.scanModule) throw UsageError("html needs --module NAME");
+    if (options.at || options.select || !options.answers.empty() || options.dryRun || options.json) {
+        throw UsageError("html takes only --project, --module, --output, --data and --code-page");
+    }
+}
+
 }  // namespace
 
 Location parseLocation(const std::string& text) {
@@ -228,6 +237,7 @@ ToolOptions parseArguments(const std::vector<std::string>& args) {
         case Verb::Settings: checkSettings(options, positionals); break;
         case Verb::Scan: checkScan(options, positionals); break;
         case Verb::Typelib: checkTypelib(options, positionals); break;
+        case Verb::Html: checkHtml(options, positionals); break;
         case Verb::Help:
             // "quillet help run" is "quillet run --help".
             if (!positionals.empty()) {

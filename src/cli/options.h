@@ -33,7 +33,7 @@ struct SelectionSpec {
     long startLine = 1, startColumn = 1, endLine = 1, endColumn = 1;
 };
 
-enum class Verb { Help, Version, Run, List, Play, Settings, Scan, Typelib };
+enum class Verb { Help, Version, Run, List, Play, Settings, Scan, Typelib, Html };
 
 struct ToolOptions {
     Verb verb = Verb::Help;
@@ -54,6 +54,7 @@ struct ToolOptions {
     std::optional<hosts::files::CodePage> codePage;
     std::optional<std::string> typelibFile;   // typelib: the library file
     std::vector<std::string> typelibPath;     // --typelib-path DIR: where imported libraries are looked for
+    std::optional<std::string> output;    // html: --output FILE (standard output without)
 };
 
 // The arguments after the program's name. Throws UsageError.

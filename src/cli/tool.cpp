@@ -2,6 +2,7 @@
 
 #include "basic/vb_error.h"
 #include "cli/help.h"
+#include "cli/html_command.h"
 #include "cli/options.h"
 #include "cli/play_command.h"
 #include "cli/run_command.h"
@@ -16,7 +17,7 @@ namespace {
 
 std::string helpHint(const std::vector<std::string>& args) {
     bool verb = !args.empty() && (args[0] == "run" || args[0] == "list" || args[0] == "play" || args[0] == "settings" ||
-                             args[0] == "scan" || args[0] == "typelib");
+                             args[0] == "scan" || args[0] == "typelib" || args[0] == "html");
     return verb ? "Try 'quillet " + args[0] + " --help'." : "Try 'quillet --help'.";
 }
 
@@ -35,6 +36,7 @@ int dispatch(const ToolOptions& options, std::ostream& out, std::ostream& err) {
         case Verb::Settings: return settingsCommand(options, out, err);
         case Verb::Scan: return scanProject(options, out, err);
         case Verb::Typelib: return typelibCommand(options, out, err);
+        case Verb::Html: return htmlPage(options, out, err);
         default: return kExitOk;
     }
 }

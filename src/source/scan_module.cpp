@@ -53,6 +53,7 @@ void clsScanModule::init(const Str& vstrModuleName) {
             }
             auto pane = env_.vbe.ActiveCodePane();
             auto selected = env_.vbe.SelectedVBComponent();
+            if (!pane || !selected) return;
             if (pane->CodeModule()->Name() != selected->CodeModule()->Name()) pane->Show();
             module = pane->CodeModule();
         });
