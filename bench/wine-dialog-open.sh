@@ -9,6 +9,7 @@ set -eu
 ROOT=$(cd "$(dirname "$0")/.." && pwd)
 DIR=$ROOT/build-win64
 export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" WINEPREFIX=$ROOT/build-wine/prefix-bench
+. "$ROOT/scripts/wine-env.sh"
 
 cmake -S "$ROOT" -B "$DIR" -DCMAKE_TOOLCHAIN_FILE="$ROOT/cmake/mingw-w64-x86_64.cmake" \
     -DCMAKE_BUILD_TYPE=Release -DQUILLET_TESTS=OFF -DQUILLET_BENCH=OFF >/dev/null

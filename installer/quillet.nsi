@@ -5,9 +5,16 @@
 ;
 ;   makensis -DVERSION=0.1.0 -DWIN32_DLL=... -DWIN64_DLL=... -DDATA_DIR=... -DOUT_FILE=... quillet.nsi
 ;
+; The installer that ships is a 32-bit program, so it runs on every Windows. -DTARGET_AMD64 makes
+; the same installer as a 64-bit program; only the tests use it, on machines that cannot run
+; 32-bit programs.
+;
 ; Silent use: Quillet-setup.exe /S [/D=folder]; uninstall.exe /S.
 
 Unicode true
+!ifdef TARGET_AMD64
+  Target amd64-unicode
+!endif
 RequestExecutionLevel user
 SetCompressor /SOLID lzma
 
@@ -27,15 +34,22 @@ Page instfiles
 UninstPage uninstConfirm
 UninstPage instfiles
 
-; regsvr32 of the DLL's own bitness: the 64-bit one lives in the real System32.
+; regsvr32 of the DLL's own bitness: the 64-bit one lives in the real System32, the 32-bit one
+; in what a 32-bit installer sees as its system folder (SysWOW64 for a 64-bit installer).
+!ifdef TARGET_AMD64
+  !define REGSVR32_X86 "$WINDIR\SysWOW64\regsvr32.exe"
+!else
+  !define REGSVR32_X86 "$SYSDIR\regsvr32.exe"
+!endif
 !macro Regsvr32 ARGS DLL
+  StrCpy $0 ""
   ${If} ${RunningX64}
   ${AndIf} "${DLL}" == "x64"
     ${DisableX64FSRedirection}
     ExecWait '"$WINDIR\System32\regsvr32.exe" ${ARGS} "$INSTDIR\x64\Quillet.dll"' $0
     ${EnableX64FSRedirection}
   ${ElseIf} "${DLL}" == "x86"
-    ExecWait '"$SYSDIR\regsvr32.exe" ${ARGS} "$INSTDIR\x86\Quillet.dll"' $0
+    ExecWait '"${REGSVR32_X86}" ${ARGS} "$INSTDIR\x86\Quillet.dll"' $0
   ${EndIf}
 !macroend
 
@@ -53,11 +67,13 @@ Section "Quillet"
   ; serves 64-bit Office. Both are registered, so either Office finds its own.
   !insertmacro Regsvr32 "/s" "x86"
   ${If} $0 != 0
+  ${OrIf} $0 == ""
     DetailPrint "The 32-bit add-in could not be registered ($0)."
   ${EndIf}
   ${If} ${RunningX64}
     !insertmacro Regsvr32 "/s" "x64"
     ${If} $0 != 0
+    ${OrIf} $0 == ""
       DetailPrint "The 64-bit add-in could not be registered ($0)."
     ${EndIf}
   ${EndIf}

@@ -7,7 +7,9 @@
 # packages are installed; the time taken is printed at the end.
 #
 # Wine's 32-bit half (wine32:i386) is optional: without it the 32-bit DLL is
-# built but not run. Its libraries must match the 64-bit ones version for
+# built but not run. It is not installed where the machine cannot run 32-bit
+# programs (scripts/can-run-32bit.sh, or QUILLET_WINE_64_ONLY=1): there Debian's
+# wine would pick its 32-bit loader for every program and fail. Its libraries must match the 64-bit ones version for
 # version, so everything goes in one apt transaction; when a mirror serves an
 # incomplete i386 index, the install is retried on the release's own suite,
 # then without the 32-bit half.
@@ -50,6 +52,13 @@ install() {
 }
 
 start=$(date +%s)
+here=$(cd "$(dirname "$0")" && pwd)
+if machine32=$("$here/can-run-32bit.sh"); then
+    echo "install-windows-toolchain: $machine32"
+else
+    echo "install-windows-toolchain: $machine32; wine32 is left out"
+    OPTIONAL=""
+fi
 # shellcheck disable=SC2086
 required=$(missingOf $REQUIRED)
 optional=$(missingOf $OPTIONAL)

@@ -1,5 +1,6 @@
 #!/bin/sh
-# The steps of scripts/test-installer.sh, run inside its virtual X server.
+# The steps of scripts/test-installer.sh, run inside its virtual X server (QUILLET_WINE32 and
+# the PATH come from scripts/wine-env.sh, sourced by that script).
 ROOT=$1
 setup=$2
 failed=0
@@ -20,8 +21,7 @@ regGone() { ! wine reg query "$1" >/dev/null 2>&1; }
 
 wineboot -i >/dev/null 2>&1
 wineserver -w
-can32=no
-dpkg-query -W -f='${Status}' wine32:i386 2>/dev/null | grep -q "install ok installed" && can32=yes
+can32=${QUILLET_WINE32:-no}
 
 wine "$setup" /S
 wineserver -w
@@ -37,13 +37,15 @@ if [ "$can32" = yes ]; then
     check "the 32-bit editor lists Quillet.Connect" regHas 'HKCU\Software\Microsoft\VBA\VBE\6.0\Addins\Quillet.Connect' LoadBehavior
     check "the VB6 IDE lists Quillet.Connect" regHas 'HKCU\Software\Microsoft\Visual Basic\6.0\Addins\Quillet.Connect' LoadBehavior
 else
-    echo "      32-bit registration not checked: wine32 is not installed"
+    echo "      32-bit registration not checked: 32-bit Windows programs do not run here (${QUILLET_WINE32_WHY:-unknown})"
 fi
 check "the installed 64-bit add-in loads and connects in the harness" \
     wine "$ROOT/build-win64/tests/wine/quillet_wine_harness.exe" "$appdata\\Programs\\Quillet\\x64\\Quillet.dll" --installed
 if [ "$can32" = yes ]; then
     check "the installed 32-bit add-in loads and connects in the harness" \
         wine "$ROOT/build-win32/tests/wine/quillet_wine_harness.exe" "$appdata\\Programs\\Quillet\\x86\\Quillet.dll" --installed
+else
+    echo "      the installed 32-bit add-in not loaded: 32-bit Windows programs do not run here"
 fi
 
 wine "$dir/uninstall.exe" /S
