@@ -3,6 +3,7 @@
 // Cancel and Help in a row at the bottom right.
 
 #include "builders/builder_layouts.h"
+#include "builders/layout_parts.h"
 
 namespace quillet::builders {
 
@@ -12,22 +13,19 @@ namespace {
 
 constexpr int kButtons = 4;
 constexpr int kWidth = 2 * kDluMargin + kButtons * kDluButtonWidth + (kButtons - 1) * kDluSpacing + 40;
-constexpr int kLabelWidth = 50;
-constexpr int kBoxX = kDluMargin + kLabelWidth + kDluSpacing;
-constexpr int kRight = kWidth - kDluMargin;
 constexpr int kPairGap = 8;
-constexpr int kShortBox = (kRight - kDluMargin - kPairGap) / 2 - kLabelWidth - kDluSpacing;
-constexpr int kLabel2X = kBoxX + kShortBox + kPairGap;
-constexpr int kBox2X = kLabel2X + kLabelWidth + kDluSpacing;
-constexpr int kLongBox = kRight - kBoxX;
-constexpr int kLabelDrop = (kDluFieldHeight - kDluLabelHeight) / 2;
+constexpr LabelColumns kColumns(kWidth, 50, kPairGap);
+constexpr int kBoxX = kColumns.boxX;
+constexpr int kRight = kColumns.right;
+constexpr int kShortBox = kColumns.shortBox;
+constexpr int kLabel2X = kColumns.label2X;
+constexpr int kBox2X = kColumns.box2X;
+constexpr int kLongBox = kColumns.longBox;
 constexpr int kCheckDrop = (kDluFieldHeight - kDluCheckHeight) / 2;
 constexpr int kRow = kDluFieldHeight + kDluSpacing;
-constexpr int kCheckRow = kDluCheckHeight + 2;
-constexpr int kFrameTop = 11;  // room for the frame's caption
 
 Placement labelAt(const Str& name, const Str& caption, int x, int y, const Str& labelFor) {
-    return label(name, caption, {x, y + kLabelDrop, kLabelWidth, kDluLabelHeight}, labelFor);
+    return kColumns.labelAt(name, caption, x, y, labelFor);
 }
 
 }  // namespace
@@ -63,28 +61,14 @@ FormLayout frmPropertyLayout() {
     items.push_back(placedCombo(u"cboAddErrorHandler", {kBoxX, y, kLongBox, kDluFieldHeight}, ComboStyle::DropDownList));
     y += kRow;
 
-    const char16_t* options[][2] = {{u"chkAddHeader", u"Header &comment"},
-                                    {u"chkAddHourglass", u"Add hou&rglass"},
-                                    {u"chkAddProcedureConstant", u"Add &procedure constant"},
-                                    {u"chkAddModuleConstant", u"Add mo&dule constant"}};
-    constexpr int optionCount = sizeof options / sizeof options[0];
-    constexpr int optionRows = (optionCount + 1) / 2;
-    int frameHeight = kFrameTop + optionRows * kCheckRow - 2 + kDluMargin - 1;
-    items.push_back(frame(u"fraOptions", u"Options", {kDluMargin, y, kRight - kDluMargin, frameHeight}));
-    int columnWidth = (kRight - kDluMargin - 2 * kDluMargin - kPairGap) / 2;
-    for (int i = 0; i < optionCount; ++i) {
-        int x = kDluMargin + kDluMargin + (i % 2) * (columnWidth + kPairGap);
-        int top = y + kFrameTop + 1 + (i / 2) * kCheckRow;
-        items.push_back(placed(options[i][0], {x, top, columnWidth, kDluCheckHeight}, options[i][1]));
-    }
-    y += frameHeight + kDluMargin;
-
+    y += OptionsFrame(items, y, kDluMargin, kRight, kPairGap,
+                      {{u"chkAddHeader", u"Header &comment"},
+                       {u"chkAddHourglass", u"Add hou&rglass"},
+                       {u"chkAddProcedureConstant", u"Add &procedure constant"},
+                       {u"chkAddModuleConstant", u"Add mo&dule constant"}}) +
+         kDluMargin;
     int x = kRight - kButtons * kDluButtonWidth - (kButtons - 1) * kDluSpacing;
-    for (const char16_t* button : {u"cmdOK", u"cmdOKAndNew", u"cmdCancel", u"cmdHelp"}) {
-        items.push_back(placed(button, {x, y, kDluButtonWidth, kDluButtonHeight}));
-        x += kDluButtonWidth + kDluSpacing;
-    }
-    layout.height = y + kDluButtonHeight + kDluMargin;
+    layout.height = ButtonRow(items, x, y, {u"cmdOK", u"cmdOKAndNew", u"cmdCancel", u"cmdHelp"});
     return layout;
 }
 
