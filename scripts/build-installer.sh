@@ -9,7 +9,7 @@
 # run 32-bit programs: build-installer/x64/Quillet-setup-<version>-x64.exe (never shipped).
 set -eu
 ROOT=$(cd "$(dirname "$0")/.." && pwd)
-version=$(sed -n 's/.*kVersion\(Major\|Minor\|Revision\) = \([0-9]*\);.*/\2/p' "$ROOT/src/addin/version.h" | paste -sd. -)
+version=$(sed -n 's/.*kVersion\(Major\|Minor\|Revision\) = \([0-9]*\);.*/\2/p' "$ROOT/src/core/version.h" | paste -sd. -)
 out=$ROOT/build-installer
 file=$out/Quillet-setup-$version.exe
 target=""

@@ -3,6 +3,7 @@
 // bottom right.
 
 #include "builders/builder_layouts.h"
+#include "builders/layout_parts.h"
 
 namespace quillet::builders {
 
@@ -58,12 +59,7 @@ FormLayout frmArgumentLayout() {
     items.push_back(labelAt(u"lblDefaultValue", {}, y, u"cboDefaultValue"));
     items.push_back(placedCombo(u"cboDefaultValue", {kBoxX, y, kBoxWidth, kDluFieldHeight}, ComboStyle::Editable));
     y += kRow + kDluSpacing - 1;
-    int x = kDluMargin;
-    for (const char16_t* button : {u"cmdOK", u"cmdOKAndNew", u"cmdCancel", u"cmdHelp"}) {
-        items.push_back(placed(button, {x, y, kDluButtonWidth, kDluButtonHeight}));
-        x += kDluButtonWidth + kDluSpacing;
-    }
-    layout.height = y + kDluButtonHeight + kDluMargin;
+    layout.height = ButtonRow(items, kDluMargin, y, {u"cmdOK", u"cmdOKAndNew", u"cmdCancel", u"cmdHelp"});
     return layout;
 }
 

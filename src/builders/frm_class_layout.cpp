@@ -4,6 +4,7 @@
 
 #include "builders/builder_layouts.h"
 #include "builders/frm_class.h"
+#include "builders/layout_parts.h"
 
 namespace quillet::builders {
 
@@ -66,11 +67,7 @@ FormLayout frmClassLayout() {
 
     y = kPageTop + kPageHeight + kDluMargin;
     int x = kRight - 3 * kDluButtonWidth - 2 * kDluSpacing;
-    for (const char16_t* button : {u"cmdCreate", u"cmdCancel", u"cmdHelp"}) {
-        items.push_back(placed(button, {x, y, kDluButtonWidth, kDluButtonHeight}));
-        x += kDluButtonWidth + kDluSpacing;
-    }
-    layout.height = y + kDluButtonHeight + kDluMargin;
+    layout.height = ButtonRow(items, x, y, {u"cmdCreate", u"cmdCancel", u"cmdHelp"});
     return layout;
 }
 

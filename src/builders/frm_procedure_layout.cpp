@@ -3,6 +3,7 @@
 // and Help in a row at the bottom right.
 
 #include "builders/builder_layouts.h"
+#include "builders/layout_parts.h"
 
 namespace quillet::builders {
 
@@ -11,25 +12,22 @@ using namespace dialogs;
 namespace {
 
 constexpr int kWidth = 290;
-constexpr int kLabelWidth = 56;
 // Columns: a label and its box, and a second pair to the right of the first.
-constexpr int kBoxX = kDluMargin + kLabelWidth + kDluSpacing;
-constexpr int kRight = kWidth - kDluMargin;
 constexpr int kPairGap = 8;
-constexpr int kShortBox = (kRight - kDluMargin - kPairGap) / 2 - kLabelWidth - kDluSpacing;
-constexpr int kLabel2X = kBoxX + kShortBox + kPairGap;
-constexpr int kBox2X = kLabel2X + kLabelWidth + kDluSpacing;
-constexpr int kLongBox = kRight - kBoxX;
-// A label sits level with the text of the box beside it.
-constexpr int kLabelDrop = (kDluFieldHeight - kDluLabelHeight) / 2;
+constexpr LabelColumns kColumns(kWidth, 56, kPairGap);
+constexpr int kBoxX = kColumns.boxX;
+constexpr int kRight = kColumns.right;
+constexpr int kShortBox = kColumns.shortBox;
+constexpr int kLabel2X = kColumns.label2X;
+constexpr int kBox2X = kColumns.box2X;
+constexpr int kLongBox = kColumns.longBox;
 constexpr int kRow = kDluFieldHeight + kDluSpacing;
 constexpr int kArgButtons = 4;
 constexpr int kListHeight = kArgButtons * kRow - kDluSpacing;
-constexpr int kCheckRow = kDluCheckHeight + 2;
-constexpr int kFrameTop = 11;  // room for the frame's caption
 
+// A label sits level with the text of the box beside it.
 Placement labelAt(const Str& name, const Str& caption, int x, int y, const Str& labelFor) {
-    return label(name, caption, {x, y + kLabelDrop, kLabelWidth, kDluLabelHeight}, labelFor);
+    return kColumns.labelAt(name, caption, x, y, labelFor);
 }
 
 }  // namespace
@@ -74,31 +72,16 @@ FormLayout frmProcedureLayout() {
     y += kRow;
 
     // The options, two to a row, in the order they act on the code.
-    const char16_t* options[][2] = {{u"chkAddHeader", u"Header &comment"},
-                                    {u"chkAddHourglass", u"Add hourg&lass"},
-                                    {u"chkAddProcedureConstant", u"Add &procedure constant"},
-                                    {u"chkAddModuleConstant", u"Add module cons&tant"},
-                                    {u"chkAddReturnStatement", u"Return &value line"},
-                                    {u"chkArgumentsOnSeparateLine", u"&Break arguments over lines"}};
-    constexpr int optionCount = sizeof options / sizeof options[0];
-    constexpr int optionRows = (optionCount + 1) / 2;
-    int frameHeight = kFrameTop + optionRows * kCheckRow - 2 + kDluMargin - 1;
-    items.push_back(frame(u"fraOptions", u"Options", {kDluMargin, y, kRight - kDluMargin, frameHeight}));
-    int columnWidth = (kRight - kDluMargin - 2 * kDluMargin - kPairGap) / 2;
-    for (int i = 0; i < optionCount; ++i) {
-        int x = kDluMargin + kDluMargin + (i % 2) * (columnWidth + kPairGap);
-        int top = y + kFrameTop + 1 + (i / 2) * kCheckRow;
-        items.push_back(placed(options[i][0], {x, top, columnWidth, kDluCheckHeight}, options[i][1]));
-    }
-    y += frameHeight + kDluMargin;
-
-    const char16_t* buttons[] = {u"cmdOK", u"cmdCancel", u"cmdHelp"};
+    y += OptionsFrame(items, y, kDluMargin, kRight, kPairGap,
+                      {{u"chkAddHeader", u"Header &comment"},
+                       {u"chkAddHourglass", u"Add hourg&lass"},
+                       {u"chkAddProcedureConstant", u"Add &procedure constant"},
+                       {u"chkAddModuleConstant", u"Add module cons&tant"},
+                       {u"chkAddReturnStatement", u"Return &value line"},
+                       {u"chkArgumentsOnSeparateLine", u"&Break arguments over lines"}}) +
+         kDluMargin;
     int x = kRight - 3 * kDluButtonWidth - 2 * kDluSpacing;
-    for (const char16_t* button : buttons) {
-        items.push_back(placed(button, {x, y, kDluButtonWidth, kDluButtonHeight}));
-        x += kDluButtonWidth + kDluSpacing;
-    }
-    layout.height = y + kDluButtonHeight + kDluMargin;
+    layout.height = ButtonRow(items, x, y, {u"cmdOK", u"cmdCancel", u"cmdHelp"});
     return layout;
 }
 

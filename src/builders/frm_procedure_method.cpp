@@ -3,6 +3,7 @@
 
 #include "core/err_handler.h"
 #include "builders/frm_procedure.h"
+#include "builders/list_choice.h"
 #include "source/type_lists.h"
 
 namespace quillet::builders {
@@ -10,21 +11,6 @@ namespace quillet::builders {
 namespace {
 
 long checkValue(bool on) { return on ? dialogs::vbChecked : dialogs::vbUnchecked; }
-
-long accessIndex(const Str& access) {
-    const char16_t* names[] = {u"Public", u"Private", u"Friend"};
-    for (long i = 0; i < 3; ++i)
-        if (basic::StrComp(access, names[i], basic::Compare::Text) == 0) return i + 1;
-    return 0;
-}
-
-void selectText(dialogs::Control& list, const Str& text) {
-    long index = source::FindInList(list, text);
-    if (index >= 0)
-        list.ListIndex(index);
-    else
-        list.Text(text);
-}
 
 }  // namespace
 
@@ -75,8 +61,8 @@ void frmProcedure::methodShow(generators::clsProcedure& method) {
     ProcedureCopy(method, *procedure_);
     auto& p = *procedure_;
     Controls(u"txtName").Text(p.Name);
-    selectText(Controls(u"cboProcType"), p.ProcType);
-    selectText(Controls(u"cboReturnValueType"), p.ReturnValueType.empty() ? Str(source::kNone) : p.ReturnValueType);
+    SelectText(Controls(u"cboProcType"), p.ProcType);
+    SelectText(Controls(u"cboReturnValueType"), p.ReturnValueType.empty() ? Str(source::kNone) : p.ReturnValueType);
     Controls(u"cboStatic").ListIndex(p.IsStatic ? 1 : 0);
     Controls(u"txtDescription").Text(p.Description);
     Controls(u"chkAddHeader").Value(checkValue(p.IncludeComment));
@@ -90,7 +76,7 @@ void frmProcedure::methodShow(generators::clsProcedure& method) {
     handlers.ListIndex(handler >= 0 ? handler : 0);
     Str access = p.AccessibleType;
     ArgumentsList(-1);
-    Accessibility(accessIndex(access));
+    Accessibility(AccessIndex(access));
 }
 
 // A new method joins the class; one under edit takes this dialog's fields.

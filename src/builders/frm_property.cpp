@@ -1,7 +1,14 @@
 #include "builders/frm_property.h"
 
+<<<<<<< HEAD
 #include "core/err_handler.h"
 #include "core/command_env.h"
+=======
+#include "builders/list_choice.h"
+
+#include "core/err_handler.h"
+#include "core/command_env.h"
+>>>>>>> issue-11
 #include "settings/ini_vars.h"
 #include "source/char_class.h"
 #include "source/code_placing.h"
@@ -23,8 +30,6 @@ constexpr long kPropertyBuilderHelp = 1120;
 
 constexpr char16_t kAccessNames[][8] = {u"", u"Public", u"Private", u"Friend"};
 
-bool is(const Str& a, const Str& b) { return basic::StrComp(a, b, basic::Compare::Text) == 0; }
-
 long checkValue(bool on) { return on ? dialogs::vbChecked : dialogs::vbUnchecked; }
 
 // "<New Class Module>" and its kind: entries that name no module yet.
@@ -36,20 +41,6 @@ bool couldBeName(const Str& word) {
     for (char16_t c : word)
         if (!source::IsCharAlphaNumericA(c) && c != u'_') return false;
     return true;
-}
-
-long accessIndex(const Str& access) {
-    for (long i = 1; i < 4; ++i)
-        if (is(access, kAccessNames[i])) return i;
-    return 0;
-}
-
-void selectText(dialogs::Control& list, const Str& text) {
-    long index = source::FindInList(list, text);
-    if (index >= 0)
-        list.ListIndex(index);
-    else
-        list.Text(text);
 }
 
 }  // namespace
@@ -205,11 +196,11 @@ void frmProperty::propertyShow(const generators::clsProperty& p) {
     Controls(u"txtName").Text(p.Name);
     nameQuiet_ = false;
     lastProposal_ = p.Name;
-    selectText(Controls(u"cboDataType"), p.datatype.empty() ? Str(u"Variant") : p.datatype);
+    SelectText(Controls(u"cboDataType"), p.datatype.empty() ? Str(u"Variant") : p.datatype);
     Controls(u"chkGet").Value(checkValue(p.GetPart));
     Controls(u"chkSet").Value(checkValue(p.SetPart));
     Controls(u"txtDescription").Text(p.Description);
-    Accessibility(accessIndex(p.AccessibleType));
+    Accessibility(AccessIndex(p.AccessibleType));
     Controls(u"cboStatic").ListIndex(p.IsStatic ? 1 : 0);
     auto& handlers = Controls(u"cboAddErrorHandler");
     long handler = p.IncludeErrorHandler ? source::FindInList(handlers, p.ErrorHandlerFile) : 0;

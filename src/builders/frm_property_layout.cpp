@@ -3,6 +3,7 @@
 // Cancel and Help in a row at the bottom right.
 
 #include "builders/builder_layouts.h"
+#include "builders/layout_parts.h"
 
 namespace quillet::builders {
 
@@ -12,22 +13,14 @@ namespace {
 
 constexpr int kButtons = 4;
 constexpr int kWidth = 2 * kDluMargin + kButtons * kDluButtonWidth + (kButtons - 1) * kDluSpacing + 40;
-constexpr int kLabelWidth = 50;
-constexpr int kBoxX = kDluMargin + kLabelWidth + kDluSpacing;
-constexpr int kRight = kWidth - kDluMargin;
 constexpr int kPairGap = 8;
-constexpr int kShortBox = (kRight - kDluMargin - kPairGap) / 2 - kLabelWidth - kDluSpacing;
-constexpr int kLabel2X = kBoxX + kShortBox + kPairGap;
-constexpr int kBox2X = kLabel2X + kLabelWidth + kDluSpacing;
-constexpr int kLongBox = kRight - kBoxX;
-constexpr int kLabelDrop = (kDluFieldHeight - kDluLabelHeight) / 2;
+// A label and its box on each row, or two such pairs side by side.
+constexpr LabelColumns C(kWidth, 50, kPairGap);
 constexpr int kCheckDrop = (kDluFieldHeight - kDluCheckHeight) / 2;
 constexpr int kRow = kDluFieldHeight + kDluSpacing;
-constexpr int kCheckRow = kDluCheckHeight + 2;
-constexpr int kFrameTop = 11;  // room for the frame's caption
 
 Placement labelAt(const Str& name, const Str& caption, int x, int y, const Str& labelFor) {
-    return label(name, caption, {x, y + kLabelDrop, kLabelWidth, kDluLabelHeight}, labelFor);
+    return C.labelAt(name, caption, x, y, labelFor);
 }
 
 }  // namespace
@@ -39,52 +32,38 @@ FormLayout frmPropertyLayout() {
     auto& items = layout.items;
     int y = kDluMargin;
     items.push_back(labelAt(u"lblName", u"Na&me:", kDluMargin, y, u"txtName"));
-    items.push_back(placed(u"txtName", {kBoxX, y, kLongBox, kDluFieldHeight}));
+    items.push_back(placed(u"txtName", {C.boxX, y, C.longBox, kDluFieldHeight}));
     y += kRow;
     // The model's own label, with the model's caption.
     items.push_back(labelAt(u"lblDataType", {}, kDluMargin, y, u"cboDataType"));
-    items.push_back(placedCombo(u"cboDataType", {kBoxX, y, kShortBox, kDluFieldHeight}, ComboStyle::Editable));
-    items.push_back(labelAt(u"lblAccessibility", u"&Access:", kLabel2X, y, u"cboAccessibility"));
-    items.push_back(placedCombo(u"cboAccessibility", {kBox2X, y, kShortBox, kDluFieldHeight}, ComboStyle::DropDownList));
+    items.push_back(placedCombo(u"cboDataType", {C.boxX, y, C.shortBox, kDluFieldHeight}, ComboStyle::Editable));
+    items.push_back(labelAt(u"lblAccessibility", u"&Access:", C.label2X, y, u"cboAccessibility"));
+    items.push_back(placedCombo(u"cboAccessibility", {C.box2X, y, C.shortBox, kDluFieldHeight}, ComboStyle::DropDownList));
     y += kRow;
     items.push_back(labelAt(u"lblStatic", u"&Static:", kDluMargin, y, u"cboStatic"));
-    items.push_back(placedCombo(u"cboStatic", {kBoxX, y, kShortBox, kDluFieldHeight}, ComboStyle::DropDownList));
-    int half = (kRight - kLabel2X - kDluSpacing) / 2;
-    items.push_back(placed(u"chkGet", {kLabel2X, y + kCheckDrop, half, kDluCheckHeight}));
-    items.push_back(placed(u"chkSet", {kLabel2X + half + kDluSpacing, y + kCheckDrop, half, kDluCheckHeight}));
+    items.push_back(placedCombo(u"cboStatic", {C.boxX, y, C.shortBox, kDluFieldHeight}, ComboStyle::DropDownList));
+    int half = (C.right - C.label2X - kDluSpacing) / 2;
+    items.push_back(placed(u"chkGet", {C.label2X, y + kCheckDrop, half, kDluCheckHeight}));
+    items.push_back(placed(u"chkSet", {C.label2X + half + kDluSpacing, y + kCheckDrop, half, kDluCheckHeight}));
     y += kRow;
     items.push_back(labelAt(u"lblModule", u"M&odule:", kDluMargin, y, u"cboModule"));
-    items.push_back(placedCombo(u"cboModule", {kBoxX, y, kLongBox, kDluFieldHeight}, ComboStyle::Editable));
+    items.push_back(placedCombo(u"cboModule", {C.boxX, y, C.longBox, kDluFieldHeight}, ComboStyle::Editable));
     y += kRow;
     items.push_back(labelAt(u"lblDescription", u"Descr&iption:", kDluMargin, y, u"txtDescription"));
-    items.push_back(placed(u"txtDescription", {kBoxX, y, kLongBox, kDluFieldHeight}));
+    items.push_back(placed(u"txtDescription", {C.boxX, y, C.longBox, kDluFieldHeight}));
     y += kRow;
     items.push_back(labelAt(u"lblAddErrorHandler", u"&Error handler:", kDluMargin, y, u"cboAddErrorHandler"));
-    items.push_back(placedCombo(u"cboAddErrorHandler", {kBoxX, y, kLongBox, kDluFieldHeight}, ComboStyle::DropDownList));
+    items.push_back(placedCombo(u"cboAddErrorHandler", {C.boxX, y, C.longBox, kDluFieldHeight}, ComboStyle::DropDownList));
     y += kRow;
 
-    const char16_t* options[][2] = {{u"chkAddHeader", u"Header &comment"},
-                                    {u"chkAddHourglass", u"Add hou&rglass"},
-                                    {u"chkAddProcedureConstant", u"Add &procedure constant"},
-                                    {u"chkAddModuleConstant", u"Add mo&dule constant"}};
-    constexpr int optionCount = sizeof options / sizeof options[0];
-    constexpr int optionRows = (optionCount + 1) / 2;
-    int frameHeight = kFrameTop + optionRows * kCheckRow - 2 + kDluMargin - 1;
-    items.push_back(frame(u"fraOptions", u"Options", {kDluMargin, y, kRight - kDluMargin, frameHeight}));
-    int columnWidth = (kRight - kDluMargin - 2 * kDluMargin - kPairGap) / 2;
-    for (int i = 0; i < optionCount; ++i) {
-        int x = kDluMargin + kDluMargin + (i % 2) * (columnWidth + kPairGap);
-        int top = y + kFrameTop + 1 + (i / 2) * kCheckRow;
-        items.push_back(placed(options[i][0], {x, top, columnWidth, kDluCheckHeight}, options[i][1]));
-    }
-    y += frameHeight + kDluMargin;
-
-    int x = kRight - kButtons * kDluButtonWidth - (kButtons - 1) * kDluSpacing;
-    for (const char16_t* button : {u"cmdOK", u"cmdOKAndNew", u"cmdCancel", u"cmdHelp"}) {
-        items.push_back(placed(button, {x, y, kDluButtonWidth, kDluButtonHeight}));
-        x += kDluButtonWidth + kDluSpacing;
-    }
-    layout.height = y + kDluButtonHeight + kDluMargin;
+    y += OptionsFrame(items, y, kDluMargin, C.right, kPairGap,
+                      {{u"chkAddHeader", u"Header &comment"},
+                       {u"chkAddHourglass", u"Add hou&rglass"},
+                       {u"chkAddProcedureConstant", u"Add &procedure constant"},
+                       {u"chkAddModuleConstant", u"Add mo&dule constant"}}) +
+         kDluMargin;
+    int x = C.right - kButtons * kDluButtonWidth - (kButtons - 1) * kDluSpacing;
+    layout.height = ButtonRow(items, x, y, {u"cmdOK", u"cmdOKAndNew", u"cmdCancel", u"cmdHelp"});
     return layout;
 }
 

@@ -7,6 +7,7 @@
 #include "basic/unicode.h"
 #include "builder_fixture.h"
 #include "builders/builder_layouts.h"
+#include "builders/frm_class.h"
 #include "builders/frm_procedure.h"
 #include "dialogs/layout_check.h"
 
@@ -141,6 +142,63 @@ TEST_F(BuilderLayouts, TheCatalogKnowsBothBuilders) {
     ASSERT_TRUE(catalog.Find(u"frmProcedure"));
     ASSERT_TRUE(catalog.Find(u"frmArgument"));
     EXPECT_EQ(catalog.Find(u"frmProcedure")->form, u"frmProcedure");
+}
+
+
+// The Property and Class Builders: the rules, the row of buttons at the bottom right, and the
+// tab pages of the Class Builder, each showing its own controls.
+void expectButtonRow(const FormLayout& layout, const std::vector<Str>& names) {
+    int x = layout.find(names.front())->rect.x;
+    for (const Str& name : names) {
+        const auto* button = layout.find(name);
+        ASSERT_TRUE(button) << basic::toUtf8(name);
+        EXPECT_EQ(button->rect.x, x) << basic::toUtf8(name);
+        EXPECT_EQ(button->rect.cx, dialogs::kDluButtonWidth);
+        EXPECT_EQ(button->rect.bottom(), layout.height - dialogs::kDluMargin);
+        x = button->rect.right() + dialogs::kDluSpacing;
+    }
+    EXPECT_EQ(x - dialogs::kDluSpacing, layout.width - dialogs::kDluMargin);
+}
+
+TEST_F(BuilderLayouts, PropertyBuilderKeepsTheRules) {
+    builders::frmProperty form(*ctx);
+    auto layout = builders::frmPropertyLayout();
+    expectEachControlPlacedOnce(layout, form);
+    auto problems = dialogs::LayoutProblems(layout, form);
+    EXPECT_TRUE(problems.empty()) << joined(problems);
+    expectButtonRow(layout, {u"cmdOK", u"cmdOKAndNew", u"cmdCancel", u"cmdHelp"});
+    EXPECT_EQ(layout.find(u"cboDataType")->combo, dialogs::ComboStyle::Editable);
+    EXPECT_EQ(layout.find(u"cboModule")->combo, dialogs::ComboStyle::Editable);
+    EXPECT_EQ(layout.find(u"cboStatic")->combo, dialogs::ComboStyle::DropDownList);
+}
+
+TEST_F(BuilderLayouts, ClassBuilderKeepsTheRules) {
+    builders::frmClass form(*ctx);
+    auto layout = builders::frmClassLayout();
+    expectEachControlPlacedOnce(layout, form);
+    auto problems = dialogs::LayoutProblems(layout, form);
+    EXPECT_TRUE(problems.empty()) << joined(problems);
+    expectButtonRow(layout, {u"cmdCreate", u"cmdCancel", u"cmdHelp"});
+    EXPECT_EQ(layout.defaultButton, u"cmdCreate");
+    EXPECT_EQ(layout.cancelButton, u"cmdCancel");
+}
+
+TEST_F(BuilderLayouts, EachClassBuilderPageHoldsTheControlsItShows) {
+    builders::frmClass form(*ctx);
+    form.Init();
+    auto layout = builders::frmClassLayout();
+    auto& tabs = form.Controls(u"TabMain");
+    for (long tab = 0; tab < tabs.ListCount(); ++tab) {
+        form.TabShow(tab);
+        for (const auto& item : layout.items) {
+            if (item.page.empty() || item.decoration) continue;
+            EXPECT_EQ(form.Controls(item.name).Visible, item.page == tabs.List(tab)) << basic::toUtf8(item.name);
+        }
+    }
+    dialogs::LayoutCatalog catalog;
+    builders::AddBuilderLayouts(catalog);
+    EXPECT_TRUE(catalog.Find(u"frmProperty"));
+    EXPECT_TRUE(catalog.Find(u"frmClass"));
 }
 
 }  // namespace

@@ -16,16 +16,7 @@ namespace {
 class ClassBuilder : public testing::PropertyFixture {
 protected:
     ClassBuilder() {
-        hosts::files::installFileImportExport(*vbe);
-        std::filesystem::create_directories(dir / "tmp");
-        platform->setTempFolder(settings().Files.systemPath(dir / "tmp") + u"\\");
-        set(settings::iiCollectionClassTemplate, u"Templates\\CollectionClass.cls");
-        std::ifstream shipped(
-            std::filesystem::path(QUILLET_SOURCE_DIR) / "data/quillet/Templates/CollectionClass/CollectionClass.cls",
-            std::ios::binary);
-        std::ostringstream bytes;
-        bytes << shipped.rdbuf();
-        write("Templates/CollectionClass.cls", bytes.str());
+        collectionClassReady();
     }
     frmClass& open() {
         EXPECT_TRUE(ctx->Forms->Open(u"frmClass"));

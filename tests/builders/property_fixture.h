@@ -2,6 +2,7 @@
 // The builders' project with what the property builders need: the Property Builder's options
 // off, the module prefix "m" and the type prefixes of Long, String, Boolean and Collection.
 
+#include "../generators/collection_template.h"
 #include "builder_fixture.h"
 #include "source/prefixes.h"
 
@@ -13,6 +14,9 @@ public:
     static std::vector<std::string> scriptsIn(const std::string& folder);
 
 protected:
+    // The collection class template and what importing it needs.
+    void collectionClassReady() { testing::collectionClassReady(*vbe, *platform, settings(), dir); }
+
     PropertyFixture() {
         settings().IniItemValue[settings::iiAddPropertyConstant] = false;
         settings().IniItemValue[settings::iiAddModuleConstantProperty] = false;

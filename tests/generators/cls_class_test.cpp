@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "../fragments/fragments_fixture.h"
+#include "collection_template.h"
 #include "golden.h"
 #include "host/project_mode.h"
 #include "hosts/files/file_project.h"
@@ -25,17 +26,9 @@ protected:
         ctx->Prefixes = source::PrefixesCollectionsCreate(source::PrefixSettings{}, {{u"Long", u"lng", u"", u"", u""},
                                                                                      {u"String", u"str", u"", u"", u""}});
         openModule({u"Option Explicit"}, 1);
-        hosts::files::installFileImportExport(*vbe);
-        std::filesystem::create_directories(dir / "tmp");
-        platform->setTempFolder(settings().Files.systemPath(dir / "tmp") + u"\\");
+        testing::collectionClassReady(*vbe, *platform, settings(), dir);
         set(settings::iiModuleHeaderFile, u"ModuleHeader.bas");
         write("ModuleHeader.bas", "'---\r\n' {MODULENAME}{DESCRIPTION}\r\n'---\r\n");
-        set(settings::iiCollectionClassTemplate, u"Templates\\CollectionClass.cls");
-        std::ifstream shipped(std::filesystem::path(QUILLET_SOURCE_DIR) / "data/quillet/Templates/CollectionClass/CollectionClass.cls",
-                              std::ios::binary);
-        std::ostringstream bytes;
-        bytes << shipped.rdbuf();
-        write("Templates/CollectionClass.cls", bytes.str());
     }
     clsClass order() {
         clsClass c(*ctx);
