@@ -1,14 +1,8 @@
 #include "builders/frm_property.h"
 
-<<<<<<< HEAD
-#include "core/err_handler.h"
-#include "core/command_env.h"
-=======
 #include "builders/list_choice.h"
-
-#include "core/err_handler.h"
 #include "core/command_env.h"
->>>>>>> issue-11
+#include "core/err_handler.h"
 #include "settings/ini_vars.h"
 #include "source/char_class.h"
 #include "source/code_placing.h"
