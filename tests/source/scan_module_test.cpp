@@ -150,3 +150,30 @@ TEST_F(SourceScanModule, TheArgumentsOfTheProcedureAtTheCaret) {
 
 }  // namespace
 }  // namespace quillet::source
+
+namespace quillet::source {
+namespace {
+
+class SourceScanModuleSuffix : public testing::ScanFixture {};
+
+TEST_F(SourceScanModuleSuffix, ATypeSuffixGivesTheReturnType) {
+    const std::vector<std::pair<Str, Str>> suffixes = {{u"$", u"String"},  {u"%", u"Integer"}, {u"&", u"Long"},
+                                                       {u"!", u"Single"},  {u"#", u"Double"},  {u"@", u"Currency"}};
+    std::vector<Str> lines;
+    for (size_t i = 0; i < suffixes.size(); ++i) {
+        lines.push_back(u"Private Function G" + Str(1, static_cast<char16_t>(u'0' + i)) + suffixes[i].first + u"(a As Long)");
+        lines.push_back(u"End Function");
+    }
+    openModule(u"basMain", lines);
+    clsScanModule scanner(env());
+    scanner.init({});
+    ASSERT_EQ(scanner.ModuleProcs.Count(), static_cast<long>(suffixes.size()));
+    for (size_t i = 0; i < suffixes.size(); ++i) {
+        const C4_ProcDefPtr& proc = scanner.ModuleProcs.Item(static_cast<long>(i + 1));
+        EXPECT_EQ(proc->Name, u"G" + Str(1, static_cast<char16_t>(u'0' + i)));
+        EXPECT_EQ(proc->ProcReturnType, suffixes[i].second) << basic::toUtf8(proc->Name);
+    }
+}
+
+}  // namespace
+}  // namespace quillet::source
