@@ -1,6 +1,7 @@
 #include "source/scan_module.h"
 
 #include "scan_fixture.h"
+#include "suffix_cases.h"
 
 namespace quillet::source {
 namespace {
@@ -157,8 +158,7 @@ namespace {
 class SourceScanModuleSuffix : public testing::ScanFixture {};
 
 TEST_F(SourceScanModuleSuffix, ATypeSuffixGivesTheReturnType) {
-    const std::vector<std::pair<Str, Str>> suffixes = {{u"$", u"String"},  {u"%", u"Integer"}, {u"&", u"Long"},
-                                                       {u"!", u"Single"},  {u"#", u"Double"},  {u"@", u"Currency"}};
+    const auto& suffixes = testing::typeSuffixCases();
     std::vector<Str> lines;
     for (size_t i = 0; i < suffixes.size(); ++i) {
         lines.push_back(u"Private Function G" + Str(1, static_cast<char16_t>(u'0' + i)) + suffixes[i].first + u"(a As Long)");

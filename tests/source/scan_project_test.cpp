@@ -2,6 +2,7 @@
 
 #include "hosts/fault/fault_plan.h"
 #include "scan_fixture.h"
+#include "suffix_cases.h"
 
 namespace quillet::source {
 namespace {
@@ -200,8 +201,7 @@ namespace {
 class SourceScanProjectSuffix : public testing::ScanFixture {};
 
 TEST_F(SourceScanProjectSuffix, ATypeSuffixGivesTheReturnType) {
-    const std::vector<std::pair<Str, Str>> suffixes = {{u"$", u"String"},  {u"%", u"Integer"}, {u"&", u"Long"},
-                                                       {u"!", u"Single"},  {u"#", u"Double"},  {u"@", u"Currency"}};
+    const auto& suffixes = testing::typeSuffixCases();
     std::vector<Str> lines;
     for (size_t i = 0; i < suffixes.size(); ++i) {
         Str name = u"F" + Str(1, static_cast<char16_t>(u'0' + i));
