@@ -50,12 +50,6 @@ public:
     // The names joined by ", ", an optional one in square brackets: "a, [b]".
     const Str& ShortStringOfArguments() const { return ShortStringOfArguments_; }
 
-    // Sets both texts where the arguments come from elsewhere than a signature (a library's).
-    void SetArgumentStrings(const Str& longForm, const Str& shortForm) {
-        StringOfArguments_ = longForm;
-        ShortStringOfArguments_ = shortForm;
-    }
-
     basic::Collection<C4_ProcArgumentPtr> Items;
 
 private:

@@ -101,14 +101,20 @@ void C4_ProcDef::ProcDefGet() {
         ProcDef = firstStatement(multiLine);
         OneLineProcDef = firstStatement(oneLine);
 
-        if (Name.empty() && basic::InStr(OneLineProcDef, u"(") > 0) {
+        // The name as the signature writes it: the editor gives it without its type-suffix
+        // character, which then says the return type.
+        Str signatureName;
+        if (basic::InStr(OneLineProcDef, u"(") > 0) {
             auto words = basic::Split(Trim(basic::Split(OneLineProcDef, u"(").front()), u" ");
-            Name = words.empty() ? Str() : words.back();
+            signatureName = words.empty() ? Str() : words.back();
         }
+        if (Name.empty()) Name = signatureName;
         Str suffix;
         if (!Name.empty() && IsTypeSuffix(Name.back())) {
             suffix = Name.substr(Name.size() - 1);
             Name.pop_back();
+        } else if (!signatureName.empty() && IsTypeSuffix(signatureName.back())) {
+            suffix = signatureName.substr(signatureName.size() - 1);
         }
         if (ProcIsFunction) {
             long p = basic::InStrRev(OneLineProcDef, u") As ", -1, Compare::Text);

@@ -8,6 +8,19 @@ using basic::Compare;
 
 namespace {
 
+// A group or class record of a searchable item.
+template <class Record>
+std::shared_ptr<Record> itemRecord(const SearchItem& item, TypeInfo& info, const Str& project) {
+    auto record = std::make_shared<Record>();
+    record->Name = item.Name;
+    record->Project = project;
+    record->TypeInfoNumber = item.TypeInfoNumber;
+    record->TypeKind = info.TypeKind();
+    record->TypeKindStr = TypeKindStrOf(record->TypeKind);
+    record->HelpStr = info.HelpString();
+    return record;
+}
+
 bool sameText(const Str& a, const Str& b) { return basic::StrComp(a, b, Compare::Text) == 0; }
 
 // The folder part of a path, through its last "\" (or "/").
@@ -78,13 +91,7 @@ void clsScanTLI::TLI_Get(const Str& referenceName, const Str& fullPath, LibraryL
         if (item.Kind == kSearchConstants && info->TypeKind() == TKIND_ENUM) {
             scanEnum(*info, library->Name(), lists);
         } else if (item.Kind != 0) {
-            auto libClass = std::make_shared<clsLibClass>();
-            libClass->Name = item.Name;
-            libClass->Project = library->Name();
-            libClass->TypeInfoNumber = item.TypeInfoNumber;
-            libClass->TypeKind = info->TypeKind();
-            libClass->TypeKindStr = TypeKindStrOf(libClass->TypeKind);
-            libClass->HelpStr = info->HelpString();
+            auto libClass = itemRecord<clsLibClass>(item, *info, library->Name());
             Str key = libClass->Project + u"." + libClass->Name;
             if (!lists.Classes.Exists(key)) lists.Classes.Add(libClass, key);
         }
@@ -93,13 +100,7 @@ void clsScanTLI::TLI_Get(const Str& referenceName, const Str& fullPath, LibraryL
 
 void clsScanTLI::scanGroup(TypeLibrary& library, const SearchItem& item, const Str& helpFile, LibraryLists& lists) {
     TypeInfoPtr info = library.TypeInfoAt(item.TypeInfoNumber);
-    auto group = std::make_shared<clsGroup>();
-    group->Name = item.Name;
-    group->Project = library.Name();
-    group->TypeInfoNumber = item.TypeInfoNumber;
-    group->TypeKind = info->TypeKind();
-    group->TypeKindStr = TypeKindStrOf(group->TypeKind);
-    group->HelpStr = info->HelpString();
+    auto group = itemRecord<clsGroup>(item, *info, library.Name());
     Str groupKey = group->Project + u"." + group->Name;
     if (!lists.Groups.Exists(groupKey)) lists.Groups.Add(group, groupKey);
     for (const MemberInfo& member : info->Members()) {

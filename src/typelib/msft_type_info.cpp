@@ -15,14 +15,25 @@ VarTypeInfo MsftTypeInfo_::AliasTarget() {
     return library_->DecodeType(info_.DataType1);
 }
 
-MemberInfo MsftTypeInfo_::functionOf(const MsftFunc& f) {
+namespace {
+
+// What a function and a variable record have alike.
+template <class Record>
+MemberInfo memberOf(const Record& r) {
     MemberInfo m;
-    m.Name = f.Name;
+    m.Name = r.Name;
+    m.MemberId = r.MemberId;
+    m.HelpString = r.HelpString;
+    m.HelpContext = r.HelpContext;
+    m.Flags = r.Flags;
+    return m;
+}
+
+}  // namespace
+
+MemberInfo MsftTypeInfo_::functionOf(const MsftFunc& f) {
+    MemberInfo m = memberOf(f);
     m.InvokeKind = f.InvokeKind;
-    m.MemberId = f.MemberId;
-    m.HelpString = f.HelpString;
-    m.HelpContext = f.HelpContext;
-    m.Flags = f.Flags;
     m.OptionalCount = f.OptionalCount;
     m.ReturnType = library_->DecodeType(f.DataType);
     for (const MsftParam& p : f.Params) {
@@ -40,12 +51,7 @@ MemberInfo MsftTypeInfo_::functionOf(const MsftFunc& f) {
 }
 
 MemberInfo MsftTypeInfo_::variableOf(const MsftVar& v) {
-    MemberInfo m;
-    m.Name = v.Name;
-    m.MemberId = v.MemberId;
-    m.HelpString = v.HelpString;
-    m.HelpContext = v.HelpContext;
-    m.Flags = v.Flags;
+    MemberInfo m = memberOf(v);
     m.ReturnType = library_->DecodeType(v.DataType);
     m.IsConstant = v.VarKind == 2;
     m.Value = v.Value;

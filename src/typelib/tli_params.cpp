@@ -116,40 +116,51 @@ Str clsScanTLI::ProduceDefaultValue(const basic::Variant& value, const VarTypeIn
 
 std::shared_ptr<source::C4_ProcArguments> clsScanTLI::ParamsGet(const MemberInfo& member, const Str& libraryName) {
     auto arguments = std::make_shared<source::C4_ProcArguments>();
-    Str longText, shortText;
+    Str longText;
+    struct Made {
+        source::C4_ProcArgumentPtr argument;
+        Str shortForm;  // without brackets
+        bool bracket;
+    };
+    std::vector<Made> made;
     bool varArgs = member.OptionalCount == -1;
     for (std::size_t i = 0; i < member.Parameters.size(); ++i) {
         const ParameterInfo& p = member.Parameters[i];
         bool paramArray = varArgs && i + 1 == member.Parameters.size();
         bool bracket = p.Optional() || p.Default() || paramArray;
-        if (i > 0) {
-            longText += u", ";
-            shortText += u", ";
-        }
-        if (bracket) {
-            longText += paramArray ? u"[ParamArray " : u"[";
-            shortText += u"[";
-        }
+        if (i > 0) longText += u", ";
+        if (bracket) longText += paramArray ? u"[ParamArray " : u"[";
         ArgumentText a = argumentOf(p, libraryName, paramArray);
         longText += a.longForm;
-        shortText += a.shortForm;
         if (p.Default()) {
             a.defaultValue = ProduceDefaultValue(p.DefaultValue, p.Type);
             if (!a.defaultValue.empty()) longText += u" = " + a.defaultValue;
         }
-        if (bracket) {
-            longText += u"]";
-            shortText += u"]";
-        }
+        if (bracket) longText += u"]";
         auto argument = std::make_shared<source::C4_ProcArgument>();
         argument->init(basicPiece(a, p, bracket, paramArray));
         argument->IsOptional = bracket && !paramArray;
         argument->IsParamArray = paramArray;
         argument->IsArray = a.isArray || paramArray;
         argument->IsEnum = a.isEnum;
-        arguments->Add(argument);
+        made.push_back({argument, a.shortForm, bracket});
     }
-    arguments->SetArgumentStrings(longText, shortText);
+    // The record takes its long text from a signature's parentheses and makes its short text from
+    // its items (each name, in brackets when optional): both get the library's texts that way.
+    arguments->init(u"(" + longText + u")");
+    arguments->Items = {};
+    for (const Made& m : made) arguments->Add(m.argument);
+    std::vector<std::pair<Str, bool>> kept;
+    for (const Made& m : made) {
+        kept.emplace_back(m.argument->Name, m.argument->IsOptional);
+        m.argument->Name = m.shortForm;
+        m.argument->IsOptional = m.bracket;
+    }
+    arguments->init(u"");
+    for (std::size_t i = 0; i < made.size(); ++i) {
+        made[i].argument->Name = kept[i].first;
+        made[i].argument->IsOptional = kept[i].second;
+    }
     return arguments;
 }
 

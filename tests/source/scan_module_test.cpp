@@ -1,6 +1,7 @@
 #include "source/scan_module.h"
 
 #include "scan_fixture.h"
+#include "suffix_cases.h"
 
 namespace quillet::source {
 namespace {
@@ -146,6 +147,32 @@ TEST_F(SourceScanModule, TheArgumentsOfTheProcedureAtTheCaret) {
     EXPECT_EQ(arguments->ShortStringOfArguments(), u"n, [s]");
     caretAt(1, 1);
     EXPECT_FALSE(CurrentProcArguments(env(), name, kind));
+}
+
+}  // namespace
+}  // namespace quillet::source
+
+namespace quillet::source {
+namespace {
+
+class SourceScanModuleSuffix : public testing::ScanFixture {};
+
+TEST_F(SourceScanModuleSuffix, ATypeSuffixGivesTheReturnType) {
+    const auto& suffixes = testing::typeSuffixCases();
+    std::vector<Str> lines;
+    for (size_t i = 0; i < suffixes.size(); ++i) {
+        lines.push_back(u"Private Function G" + Str(1, static_cast<char16_t>(u'0' + i)) + suffixes[i].first + u"(a As Long)");
+        lines.push_back(u"End Function");
+    }
+    openModule(u"basMain", lines);
+    clsScanModule scanner(env());
+    scanner.init({});
+    ASSERT_EQ(scanner.ModuleProcs.Count(), static_cast<long>(suffixes.size()));
+    for (size_t i = 0; i < suffixes.size(); ++i) {
+        const C4_ProcDefPtr& proc = scanner.ModuleProcs.Item(static_cast<long>(i + 1));
+        EXPECT_EQ(proc->Name, u"G" + Str(1, static_cast<char16_t>(u'0' + i)));
+        EXPECT_EQ(proc->ProcReturnType, suffixes[i].second) << basic::toUtf8(proc->Name);
+    }
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "hosts/fault/fault_plan.h"
 #include "scan_fixture.h"
+#include "suffix_cases.h"
 
 namespace quillet::source {
 namespace {
@@ -186,6 +187,34 @@ TEST_F(SourceScanProject, EveryFailingHostCallIsReportedAndTheScanGoesOn) {
                                                }})
                             .init());
         EXPECT_EQ(seen.size(), 1u) << "call " << k << " " << plan->log()[k - 1];
+    }
+}
+
+}  // namespace
+}  // namespace quillet::source
+
+namespace quillet::source {
+namespace {
+
+// The editor names a procedure without its type-suffix character; the signature's character still
+// says the return type.
+class SourceScanProjectSuffix : public testing::ScanFixture {};
+
+TEST_F(SourceScanProjectSuffix, ATypeSuffixGivesTheReturnType) {
+    const auto& suffixes = testing::typeSuffixCases();
+    std::vector<Str> lines;
+    for (size_t i = 0; i < suffixes.size(); ++i) {
+        Str name = u"F" + Str(1, static_cast<char16_t>(u'0' + i));
+        lines.push_back(u"Public Function " + name + suffixes[i].first + u"(a As Long)");
+        lines.push_back(u"End Function");
+    }
+    openModule(u"basMain", lines);
+    clsScanProject(env()).init({}, true);
+    for (size_t i = 0; i < suffixes.size(); ++i) {
+        Str name = u"F" + Str(1, static_cast<char16_t>(u'0' + i));
+        ASSERT_TRUE(state.ProjectProcs->Exists(name)) << basic::toUtf8(name);
+        EXPECT_EQ(state.ProjectProcs->Item(name)->ProcReturnType, suffixes[i].second) << basic::toUtf8(name);
+        EXPECT_TRUE(state.ProjectProcs->Item(name)->ProcIsFunction);
     }
 }
 
