@@ -5,6 +5,7 @@ namespace quillet::builders {
 void AddBuilderLayouts(dialogs::LayoutCatalog& catalog) {
     catalog.Add(u"frmProcedure", frmProcedureLayout);
     catalog.Add(u"frmArgument", frmArgumentLayout);
+    catalog.Add(u"frmVar", frmVarLayout);
 }
 
 }  // namespace quillet::builders

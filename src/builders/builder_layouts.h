@@ -7,6 +7,7 @@ namespace quillet::builders {
 
 dialogs::FormLayout frmProcedureLayout();
 dialogs::FormLayout frmArgumentLayout();
+dialogs::FormLayout frmVarLayout();
 
 // Adds every builder's layout to the catalogue, by form name.
 void AddBuilderLayouts(dialogs::LayoutCatalog& catalog);

@@ -1,6 +1,7 @@
 #include "builders/builder_registry.h"
 
 #include "builders/frm_procedure.h"
+#include "builders/frm_var.h"
 
 namespace quillet::builders {
 
@@ -16,6 +17,7 @@ void RegisterBuilder(addin::Context& ctx, const Str& formName, dialogs::FormStac
 void RegisterBuilders(addin::Context& ctx) {
     // Each builder adds itself here as it comes.
     RegisterBuilder(ctx, u"frmProcedure", [&ctx](const std::vector<Str>& args) { OpenProcedureBuilder(ctx, args); });
+    RegisterBuilder(ctx, u"frmVar", [&ctx](const std::vector<Str>& args) { OpenVariableBuilder(ctx, args); });
 }
 
 }  // namespace quillet::builders
