@@ -105,6 +105,20 @@ bool isQuickCommand(const Str& command) {
     return false;
 }
 
+bool quickCommandNeedsDialog(const Str& command) {
+    for (const char16_t* word : {u"Dim", u"Const", u"Enum", u"Type", u"GoTo", u"On Error GoTo", u"Resume ",
+                                 u"With", u"Select From Enum", u"Insert Variable", u"Debug.Print ", u"Select Case",
+                                 u"Select Case Else", u"Select Case UCase", u"Insert Objectname"})
+        if (command == word) return true;
+    return false;
+}
+
+std::vector<Str> quickCommandWords() {
+    std::vector<Str> words;
+    for (const auto& route : routes()) words.emplace_back(route.command);
+    return words;
+}
+
 void QuilletHandle(Context& ctx, const Str& command, const Str& type) {
     const Str where = u"basQuillet.QuilletHandle";
     bool inCode = false;

@@ -7,6 +7,7 @@ void AddBuilderLayouts(dialogs::LayoutCatalog& catalog) {
     catalog.Add(u"frmArgument", frmArgumentLayout);
     catalog.Add(u"frmProperty", frmPropertyLayout);
     catalog.Add(u"frmClass", frmClassLayout);
+    catalog.Add(u"frmVar", frmVarLayout);
 }
 
 }  // namespace quillet::builders

@@ -9,6 +9,7 @@ dialogs::FormLayout frmProcedureLayout();
 dialogs::FormLayout frmArgumentLayout();
 dialogs::FormLayout frmPropertyLayout();
 dialogs::FormLayout frmClassLayout();
+dialogs::FormLayout frmVarLayout();
 
 // Adds every builder's layout to the catalogue, by form name.
 void AddBuilderLayouts(dialogs::LayoutCatalog& catalog);

@@ -3,6 +3,7 @@
 #include "builders/frm_class.h"
 #include "builders/frm_procedure.h"
 #include "builders/frm_property.h"
+#include "builders/frm_var.h"
 
 namespace quillet::builders {
 
@@ -20,6 +21,7 @@ void RegisterBuilders(core::Context& ctx) {
     RegisterBuilder(ctx, u"frmProcedure", [&ctx](const std::vector<Str>& args) { OpenProcedureBuilder(ctx, args); });
     RegisterBuilder(ctx, u"frmProperty", [&ctx](const std::vector<Str>& args) { OpenPropertyBuilder(ctx, args); });
     RegisterBuilder(ctx, u"frmClass", [&ctx](const std::vector<Str>& args) { OpenClassBuilder(ctx, args); });
+    RegisterBuilder(ctx, u"frmVar", [&ctx](const std::vector<Str>& args) { OpenVariableBuilder(ctx, args); });
 }
 
 }  // namespace quillet::builders

@@ -3,6 +3,7 @@
 #include "basic/strings.h"
 #include "settings/catalogue.h"
 #include "settings/ini_vars.h"
+#include "source/decl_blocks.h"
 #include "source/proc_areas.h"
 
 namespace quillet::source {
@@ -112,6 +113,8 @@ bool caretLineTaken(CodeEnv& env, const Str& line, const Str& module, const Str&
     ensureLine(*code, at);
     long kind = 0;
     if (!code->ProcOfLine(at, kind).empty() || !lineMayBeTaken(code->Lines(at, 1), name)) return false;
+    // A blank line inside a block or behind a continued line is no place for a declaration.
+    if (LineInsideStatement(*code, at)) return false;
     code->ReplaceLine(at, line);
     return true;
 }
@@ -225,7 +228,7 @@ bool VarConstCodeAdd(CodeEnv& env, const Str& line, const Str& module, bool fMod
             if (target.empty()) return;
         }
         auto code = componentNamed(env.vbe, target)->CodeModule();
-        code->InsertLines(declarationLine(*code, fAtTop), line);
+        code->InsertLines(LineOutsideStatements(*code, declarationLine(*code, fAtTop)), line);
         placed = true;
     });
     return placed;

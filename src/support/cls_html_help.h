@@ -91,6 +91,10 @@ private:
 namespace help_topics {
 constexpr long ProcedureBuilder = 1100;
 constexpr long ArgumentBuilder = 1110;
+constexpr long VariableBuilder = 1200;
+constexpr long ConstantBuilder = 1210;
+constexpr long EnumTypeBuilder = 1220;
+constexpr long SelectCaseBuilder = 1230;
 }  // namespace help_topics
 
 }  // namespace quillet::support

@@ -23,7 +23,7 @@ TEST(CliOptions, RunWithCaretAnswersAndDryRun) {
 }
 
 TEST(CliOptions, TypeSelectionAndDefaultColumn) {
-    ToolOptions options = parse({"run", "Dim", "Long", "--project", "p", "--select", "m:1:2-3:4"});
+    ToolOptions options = parse({"run", "ErrorHandling", "Long", "--project", "p", "--select", "m:1:2-3:4"});
     EXPECT_EQ(options.type, u"Long");
     EXPECT_EQ(options.select->startLine, 1);
     EXPECT_EQ(options.select->startColumn, 2);

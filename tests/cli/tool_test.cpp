@@ -136,6 +136,36 @@ TEST_F(CliTool, UsageErrorsAreExitOne) {
     EXPECT_EQ(touched(), "");
 }
 
+TEST_F(CliTool, UnknownQuickCommandIsAUsageErrorThatListsTheKnownWords) {
+    EXPECT_EQ(run({"run", "Nope", "--project", project, "--at", "basMain:1"}), kExitUsage);
+    const std::string message = err.str();
+    EXPECT_EQ(message.rfind("quillet: unknown quick command \"Nope\"; the known ones are \"Dim\", \"Const\"", 0), 0u)
+        << message;
+    EXPECT_NE(message.find("\"If Then Else\""), std::string::npos);
+    EXPECT_NE(message.find("\"Debug.Print \""), std::string::npos);
+    EXPECT_NE(message.find("Try 'quillet run --help'."), std::string::npos);
+    EXPECT_EQ(out.str(), "");
+    EXPECT_EQ(touched(), "");
+    // A known word with its trailing blank dropped is not the same word.
+    EXPECT_EQ(run({"run", "Debug.Print", "--project", project, "--at", "basMain:1"}), kExitUsage);
+    EXPECT_EQ(touched(), "");
+}
+
+TEST_F(CliTool, AQuickCommandThatNeedsADialogSaysSoAndIsExitOne) {
+    for (const char* word : {"Dim", "Const", "Property", "Enum", "With", "Select Case", "Debug.Print "}) {
+        EXPECT_EQ(run({"run", word, "String", "--project", project, "--at", "basMain:12:5"}), kExitUsage) << word;
+        EXPECT_EQ(err.str(), std::string("quillet: the quick command \"") + word +
+                                 "\" asks its question in a dialog, which run cannot show; use quillet play\n"
+                                 "Try 'quillet run --help'.\n");
+    }
+    EXPECT_EQ(out.str(), "");
+    EXPECT_EQ(touched(), "");
+    // A command whose one question is an input box takes its answer from --answer.
+    EXPECT_EQ(run({"run", "If Then Else If", "--project", project, "--at", "basMain:12:5", "--answer", "1"}), kExitOk)
+        << err.str();
+    EXPECT_EQ(touched(), "basMain.bas ");
+}
+
 TEST_F(CliTool, HelpAndVersion) {
     EXPECT_EQ(run({"--help"}), kExitOk);
     EXPECT_NE(out.str().find("Usage: quillet COMMAND"), std::string::npos);

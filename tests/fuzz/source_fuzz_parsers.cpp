@@ -1,7 +1,8 @@
 // libFuzzer target for the source model's text parsers: the declaration parsers of variables and
 // constants, the argument parsers, the procedure signature parser, the statement splitter
-// LineDisjunction, SplitArguments and the declaration-lines joiner. Any input must end in a
-// result, never a crash, a hang or an out-of-bounds read.
+// LineDisjunction, SplitArguments, the declaration-lines joiner and the argument put into a
+// procedure's header. Any input must end in a result, never a crash, a hang or an out-of-bounds
+// read.
 //
 // Not part of the default build. To build and run it with clang, from the repository's root:
 //   clang++ -std=c++20 -g -O1 -fsanitize=fuzzer,address,undefined -I src tests/fuzz/source_fuzz_parsers.cpp \
@@ -21,6 +22,7 @@
 #include "source/literals.h"
 #include "source/proc_areas.h"
 #include "source/proc_def.h"
+#include "source/signature_edit.h"
 #include "source/statements.h"
 #include "source/words.h"
 
@@ -65,6 +67,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     long start = 0, end = 0, defLines = 0;
     ProcDeclAreaGet(start, end, 0, defLines, true, code);
     ProcExitLineGet(0, 0, u"Sub", code, true);
+    for (long before = 0; before <= 3; ++before) SignatureArgumentInsert(text, u"x As Long", before, before % 2 == 0);
     WrapText(text);
     QuoteValue(text, u"Variant");
     WordAtColumns(text, static_cast<long>(size % 7), static_cast<long>(size % 13));

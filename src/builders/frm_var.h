@@ -1,0 +1,138 @@
+#pragma once
+// The Variable Builder: declares one variable (module, procedure or Type member), or adds one
+// argument to the procedure at the caret. The name's prefix follows the level and the type, the
+// line goes where Basic allows it, an object variable can get its Set ... = New, With block and
+// Set ... = Nothing, and the name goes to the clipboard and, when asked, to the caret.
+
+#include <array>
+#include <memory>
+
+#include "core/context.h"
+#include "dialogs/form.h"
+#include "source/scan_module.h"
+#include "source/scan_proc.h"
+#include "support/cls_html_help.h"
+
+namespace quillet::builders {
+
+using basic::Str;
+
+// A dialog that opens a declaration builder as its sub-dialog and lends it its lists instead of
+// a scan of its own. The builder reports back by name (AddNewVar, AddNewConst, ArgInsert,
+// NewVariable) on the parent form.
+class DeclarationOwner {
+public:
+    virtual ~DeclarationOwner() = default;
+    virtual basic::Collection<source::clsVariablePtr>& ModuleVars() = 0;
+    virtual basic::Collection<source::clsConstantPtr>& ModuleConsts() = 0;
+    virtual basic::Collection<source::clsVariablePtr>& ProcVars() = 0;
+    virtual basic::Collection<source::clsConstantPtr>& ProcConsts() = 0;
+    virtual basic::Collection<source::C4_ProcDefPtr>& ModuleProcs() = 0;
+};
+
+// The lists a declaration builder checks a new name against and places code by.
+struct DeclarationLists {
+    basic::Collection<source::clsVariablePtr> ModuleVars;
+    basic::Collection<source::clsConstantPtr> ModuleConsts;
+    basic::Collection<source::clsEnumPtr> ModuleEnums;
+    basic::Collection<source::clsTypePtr> ModuleTypes;
+    basic::Collection<source::C4_ProcDefPtr> ModuleProcs;
+    basic::Collection<source::clsVariablePtr> ProcVars;
+    basic::Collection<source::clsConstantPtr> ProcConsts;
+};
+
+// Where the caret stands: the procedure around it and whether it is on the procedure's header.
+struct CaretPlace {
+    Str procName;
+    long procKind = 0;
+    long bodyLine = 0;     // the header's first line
+    long headerEnd = 0;    // the header's last line (continuations included)
+    bool inProcedure = false;
+    bool inHeader = false;
+};
+CaretPlace CaretPlaceGet(host::VBE& vbe);
+
+class frmVar : public dialogs::Form {
+public:
+    explicit frmVar(core::Context& ctx);
+    ~frmVar() override;
+
+    // Fills and prepares the dialog; the caller then shows it.
+    void Init(const Str& vstrPredeterminedTypes, bool vfOnlyPredeterminedTypes, bool vfForWith, bool vfInsertInstance);
+
+    // Set once: a second parent is ignored while the first is there.
+    void SetParentForm(dialogs::Form* parent);
+
+    // 0 module, 1 procedure, 2 interface.
+    long VarLevel();
+    // 1 Public, 2 Private, 4 Static, 0 otherwise; the setter takes an index of AccessibilityItem
+    // (0: the list's first entry).
+    long Accessibility();
+    void Accessibility(long index);
+    static const std::array<Str, 6>& AccessibilityItem();
+    bool IsStatic();
+
+    // Puts a name into txtName and refreshes its prefix.
+    void ArgInsert(const Str& vstrName, const Str& vstrType);
+    // OK (vfPaste False) and OK & Paste: True when the declaration is written.
+    bool PressOK(bool vfPaste);
+    // The line without and with its keyword.
+    void BuildCodeLine(Str& rstrText, Str& rstrLine);
+    void SetControlsState();
+
+    const DeclarationLists& Lists() const { return lists_; }
+
+protected:
+    void Form_Activate() override;
+    void Form_Unload() override;
+
+private:
+    void addControls();
+    void hookEvents();
+    void guard(const Str& method, const std::function<void()>& statement);
+    void contextRead();
+    void LoadCombos();
+    void AccessibilityComboBoxFill();
+    void typesFill(const Str& types, bool only, bool forWith);
+    void CurrentProcArgGet();
+    source::C4_ProcDefPtr procedureRead();
+    void nameSet(const Str& name);
+    void levelFromScope(long scope);
+    long scopeOfLevel();
+    void PrefixRefresh();
+    void txtName_Change();
+    void cboDataType_Change();
+    void cboArgument_Change();
+    void OptionalSet();
+    void txtLength_KeyPress(long& keyAscii);
+    void ArgumentAdd(const Str& name);
+    void ObjectStatementsAdd(const Str& name);
+    void recordsAndParent(const Str& name, const Str& module);
+    bool isChecked(const Str& box);
+    Str typeText();
+
+    core::Context& ctx_;
+    support::clsHtmlHelpForForm help_;
+    DeclarationLists lists_;
+    CaretPlace place_;
+    source::C4_ProcDefPtr procDef_;
+    bool procFoundInPublicList_ = false;
+    bool loading_ = false;
+    bool refreshing_ = false;
+    bool nameByProgram_ = false;
+    bool typeByProgram_ = false;
+    bool prefixFollows_ = false;
+    bool typeChosenByUser_ = false;
+    bool notOptionalBefore_ = false;
+    bool insertInstance_ = false;
+    bool firstShow_ = true;
+    Str pickedUpName_;
+    Str firstFive_;
+};
+
+// Opens the Variable Builder as the command "Add Variable" does: the word "with" as first
+// argument prepares it for a With block (object types only), "instance" pastes the name followed
+// by a blank.
+void OpenVariableBuilder(core::Context& ctx, const std::vector<Str>& args);
+
+}  // namespace quillet::builders
