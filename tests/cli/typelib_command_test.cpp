@@ -3,7 +3,7 @@
 #include <sstream>
 
 #include "cli/tool.h"
-#include "tests/typelib/typelib_fixture.h"
+#include "../typelib/typelib_fixture.h"
 
 namespace quillet::cli {
 namespace {

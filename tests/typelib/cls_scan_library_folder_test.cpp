@@ -1,7 +1,7 @@
 #include "typelib/cls_scan_library_folder.h"
 
 #include "settings/catalogue.h"
-#include "tests/settings/settings_fixture.h"
+#include "../settings/settings_fixture.h"
 
 namespace quillet::typelib {
 namespace {

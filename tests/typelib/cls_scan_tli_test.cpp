@@ -1,7 +1,7 @@
 #include "typelib/cls_scan_tli.h"
 
-#include "tests/source/source_fixture.h"
-#include "tests/typelib/typelib_fixture.h"
+#include "../source/source_fixture.h"
+#include "../typelib/typelib_fixture.h"
 
 namespace quillet::typelib {
 namespace {

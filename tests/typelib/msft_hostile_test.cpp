@@ -3,7 +3,7 @@
 #include "typelib/msft_file.h"
 #include "typelib/msft_reader.h"
 
-#include "tests/typelib/typelib_fixture.h"
+#include "../typelib/typelib_fixture.h"
 
 namespace quillet::typelib {
 namespace {

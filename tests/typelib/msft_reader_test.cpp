@@ -1,6 +1,6 @@
 #include "typelib/msft_reader.h"
 
-#include "tests/typelib/typelib_fixture.h"
+#include "../typelib/typelib_fixture.h"
 
 namespace quillet::typelib {
 namespace {
