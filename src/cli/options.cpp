@@ -101,8 +101,10 @@ private:
             options_.data = value;
         } else if (name == "--module") {
             options_.scanModule = basic::fromUtf8(value);
-                                                     "--module", "--output",
-                                                     "--typelib-path"};
+        } else if (name == "--typelib-path") {
+            options_.typelibPath.push_back(value);
+        } else if (name == "--output") {
+            options_.output = value;
         } else if (name == "--code-page") {
             options_.codePage = hosts::files::codePageNamed(value);
             if (!options_.codePage) throw UsageError("unknown code page \"" + value + "\" (use 1252 or 65001)");
