@@ -3,6 +3,7 @@
 // on its blank line) and a class module (clsOrder), settings with every builder option off, the
 // builders registered, and UI scripts played against it.
 
+#include <cctype>
 #include <fstream>
 #include <sstream>
 
@@ -14,6 +15,14 @@
 #include "source/keywords.h"
 
 namespace quillet::testing {
+
+// A test's name for a script file ("variable/cancel.uis" gives "variable_cancel").
+inline std::string scriptTestName(const ::testing::TestParamInfo<std::string>& info) {
+    std::string name = info.param.substr(0, info.param.size() - 4);
+    for (char& c : name)
+        if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+    return name;
+}
 
 class BuilderFixture : public FragmentsFixture {
 protected:

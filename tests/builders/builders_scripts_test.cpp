@@ -29,11 +29,7 @@ TEST_P(BuilderScripts, LeavesTheExpectedModuleText) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, BuilderScripts, ::testing::ValuesIn(scriptNames()),
-                         [](const ::testing::TestParamInfo<std::string>& info) {
-                             std::string name = info.param.substr(0, info.param.size() - 4);
-                             std::replace_if(name.begin(), name.end(), [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
-                             return name;
-                         });
+                         testing::scriptTestName);
 
 }  // namespace
 }  // namespace quillet::builders
