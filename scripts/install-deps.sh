@@ -5,6 +5,9 @@ set -euo pipefail
 packages=(cmake g++ make libgtest-dev libgmock-dev libbenchmark-dev)
 # widl (Wine's IDL compiler) builds the type libraries the reader's tests read.
 packages+=(wine64-tools)
+# The mingw binutils put those libraries into 32- and 64-bit DLLs as resources, so the reader's
+# tests of PE files run in every build, not only after the Windows toolchain is installed.
+packages+=(binutils-mingw-w64-x86-64 binutils-mingw-w64-i686)
 missing=()
 for p in "${packages[@]}"; do
     dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")
