@@ -19,6 +19,7 @@ if [ "$quick" -eq 0 ]; then
     echo "== build and test with AddressSanitizer and UndefinedBehaviorSanitizer =="
     cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DQUILLET_SANITIZE=ON -DQUILLET_BENCH=OFF >/dev/null
     cmake --build build-sanitize -j"$jobs"
+    # Every test, in a few long-lived processes rather than one process per test.
     ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
-        ctest --test-dir build-sanitize --output-on-failure -j"$jobs"
+        scripts/run-test-shards.sh build-sanitize/tests/quillet_tests "$jobs"
 fi

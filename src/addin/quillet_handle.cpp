@@ -1,7 +1,5 @@
 #include "addin/quillet_handle.h"
 
-#include <functional>
-
 #include "addin/block_commands.h"
 #include "addin/core_names.h"
 #include "core/caret.h"
@@ -16,7 +14,7 @@ namespace quillet::addin {
 
 namespace {
 
-using Action = std::function<void(Context&, const Str& command, const Str& type)>;
+using Action = void (*)(Context&, const Str& command, const Str& type);
 
 struct Route {
     const char16_t* command;
@@ -40,6 +38,10 @@ void loopBlock(Context& ctx, const Str& command, const Str&) { LoopCodeInsert(ct
 
 // The commands of the source tools, registered under their command words.
 void toolRoutine(Context& ctx, const Str& command, const Str&) { RoutineRun(ctx, command); }
+
+void lineNumbers(Context& ctx, const Str& command, const Str&) {
+    LineNumbers(ctx, command == u"Line Numbers Add" ? 0 : 1);
+}
 
 // The commands whose dialogs, scans or tools are built elsewhere: they are known words and
 // leave the code as it is until those parts are there.
@@ -93,6 +95,8 @@ const std::vector<Route>& routes() {
         {u"Comment Lines Add", toolRoutine},
         {u"Comment Lines Remove", toolRoutine},
         {u"Insert Objectname", notAvailableYet},
+        {u"Line Numbers Add", lineNumbers},
+        {u"Line Numbers Remove", lineNumbers},
     };
     return table;
 }
@@ -105,11 +109,9 @@ bool isQuickCommand(const Str& command) {
     return false;
 }
 
-bool quickCommandNeedsDialog(const Str& command) {
-    for (const char16_t* word : {u"Dim", u"Const", u"Enum", u"Type", u"GoTo", u"On Error GoTo", u"Resume ",
-                                 u"With", u"Select From Enum", u"Insert Variable", u"Debug.Print ", u"Select Case",
-                                 u"Select Case Else", u"Select Case UCase", u"Insert Objectname"})
-        if (command == word) return true;
+bool quickCommandAvailable(const Str& command) {
+    for (const auto& route : routes())
+        if (command == route.command) return route.action != notAvailableYet;
     return false;
 }
 

@@ -15,9 +15,9 @@ void QuilletHandle(Context& ctx, const Str& command, const Str& type);
 // Whether the word is one of the quick commands' words (matched exactly, trailing blanks included).
 bool isQuickCommand(const Str& command);
 
-// Whether the quick command asks its question in a dialog of its own (a list, a name and value),
-// which only the editor or a UI script can answer.
-bool quickCommandNeedsDialog(const Str& command);
+// Whether the quick command does its work in this build: false for an unknown word and for the
+// words whose dialogs are not built yet (they are known, and leave the code as it is).
+bool quickCommandAvailable(const Str& command);
 
 // The quick commands' words, in the order of the dispatch table.
 std::vector<Str> quickCommandWords();

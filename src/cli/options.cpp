@@ -121,17 +121,10 @@ private:
     size_t index_ = 0;
 };
 
-// The line-number commands, which run takes beside the quick commands.
-bool isLineNumbersCommand(const Str& command) {
-    return command == u"Line Numbers Add" || command == u"Line Numbers Remove";
-}
-
 // The words run knows, each in double quotes so that a trailing blank shows.
 std::string knownCommandWords() {
     std::string list;
-    auto words = addin::quickCommandWords();
-    words.insert(words.end(), {u"Line Numbers Add", u"Line Numbers Remove"});
-    for (const Str& word : words) list += (list.empty() ? "\"" : ", \"") + basic::toUtf8(word) + "\"";
+    for (const Str& word : addin::quickCommandWords()) list += (list.empty() ? "\"" : ", \"") + basic::toUtf8(word) + "\"";
     return list;
 }
 
@@ -140,11 +133,11 @@ void checkRun(ToolOptions& options, const std::vector<std::string>& positionals)
     if (positionals.size() > 2) throw UsageError("run takes a COMMAND and an optional TYPE; unexpected \"" + positionals[2] + "\"");
     options.command = basic::fromUtf8(positionals[0]);
     if (positionals.size() == 2) options.type = basic::fromUtf8(positionals[1]);
-    if (!addin::isQuickCommand(options.command) && !isLineNumbersCommand(options.command))
+    if (!addin::isQuickCommand(options.command))
         throw UsageError("unknown quick command \"" + positionals[0] + "\"; the known ones are " + knownCommandWords());
-    if (addin::quickCommandNeedsDialog(options.command))
+    if (!addin::quickCommandAvailable(options.command))
         throw UsageError("the quick command \"" + positionals[0] +
-                         "\" asks its question in a dialog, which run cannot show; use quillet play");
+                         "\" asks its question in a dialog that this version does not have yet; nothing was changed");
     if (!options.project) throw UsageError("run needs --project PATH");
     if (!options.at && !options.select) throw UsageError("run needs --at MODULE:LINE[:COL] or --select MODULE:L1:C1-L2:C2");
     if (options.at && options.select) throw UsageError("give --at or --select, not both");

@@ -3,7 +3,6 @@
 #include <iomanip>
 
 #include "core/context.h"
-#include "addin/project_commands.h"
 #include "addin/quillet_handle.h"
 #include "basic/strings.h"
 #include "cli/project_session.h"
@@ -42,10 +41,7 @@ int runCommand(const ToolOptions& options, std::ostream& out, std::ostream& err)
     ProjectSession session = openSession(options);
     core::Context ctx(session.vbe, session.platform);
     startAddin(ctx, options, err);
-    if (options.command == u"Line Numbers Add" || options.command == u"Line Numbers Remove")
-        addin::LineNumbers(ctx, options.command == u"Line Numbers Add" ? 0 : 1);
-    else
-        addin::QuilletHandle(ctx, options.command, options.type);
+    addin::QuilletHandle(ctx, options.command, options.type);
     // A command that opens a dialog waits for a user the tool does not have: nothing is written.
     if (dialogs::Form* dialog = ctx.Forms->Top()) {
         err << "quillet: " << basic::toUtf8(options.command) << " opens the dialog " << basic::toUtf8(dialog->Name())
