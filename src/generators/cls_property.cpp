@@ -2,6 +2,8 @@
 
 #include "generators/cls_property.h"
 
+#include <memory>
+
 #include "core/caret.h"
 #include "core/err_handler.h"
 #include "fragments/placeholders.h"
@@ -144,15 +146,15 @@ void clsProperty::PropertyProceduresCodeCreate(bool vblnGet, bool vblnSet, Str& 
 
 void clsProperty::CodeFragmentsAdd(Str& rstrCode) {
     core::guarded(*ctx_, u"clsProperty.CodeFragmentsAdd", [&] {
-        clsProcedure procedure(*ctx_);
-        procedure.Name = Name;
-        procedure.ModuleName = ModuleName;
-        procedure.ModuleNameConstant = ModuleNameConstant;
-        procedure.ProcedureNameConstant = ProcedureNameConstant;
-        procedure.ErrorHandler = ErrorHandler;
-        procedure.ProcType = u"Property";
-        if (IncludeErrorHandler) procedure.AddErrorHandler(rstrCode);
-        if (IncludeHourglass) procedure.AddHourglass(rstrCode);
+        auto procedure = std::make_unique<clsProcedure>(*ctx_);
+        procedure->Name = Name;
+        procedure->ModuleName = ModuleName;
+        procedure->ModuleNameConstant = ModuleNameConstant;
+        procedure->ProcedureNameConstant = ProcedureNameConstant;
+        procedure->ErrorHandler = ErrorHandler;
+        procedure->ProcType = u"Property";
+        if (IncludeErrorHandler) procedure->AddErrorHandler(rstrCode);
+        if (IncludeHourglass) procedure->AddHourglass(rstrCode);
     });
 }
 

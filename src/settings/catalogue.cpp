@@ -104,7 +104,19 @@ void missingCase(Settings& settings, const Str& message) { settings.Platform().M
 
 Str numberText(long n) { return basic::fromUtf8(std::to_string(n)); }
 
+long sectionFile(long section) {
+    if (section == SectionScopePrefix || section == SectionArgumentPrefix) return IniFileTypePrefix;
+    if (section == SectionFragmentsReference) return IniFileReferenceFragments;
+    return IniFileUser;
+}
+
 }  // namespace
+
+ItemPlace ItemPlaceOf(long item) {
+    if (!inItems(item)) return {};
+    const long section = rows()[item].section;
+    return {kFileNames[sectionFile(section)], kSectionNames[section], rows()[item].name};
+}
 
 Str IniFile2Name(Settings& settings, long file) {
     if (file >= 0 && file < IniFileCount) return kFileNames[file];
@@ -125,9 +137,7 @@ long ItemInSection(Settings& settings, long item) {
 }
 
 long Section2IniFile(Settings& settings, long section) {
-    if (section == SectionScopePrefix || section == SectionArgumentPrefix) return IniFileTypePrefix;
-    if (section == SectionFragmentsReference) return IniFileReferenceFragments;
-    if (inSections(section)) return IniFileUser;
+    if (inSections(section)) return sectionFile(section);
     missingCase(settings, u"Missing Case in Section2IniFile for Section " + Section2Name(settings, section));
     return 0;
 }

@@ -115,6 +115,13 @@ long Section2IniFile(Settings& settings, long section);
 Str Item2Name(Settings& settings, long item);
 Str Section2Name(Settings& settings, long section);
 
+// Where an item is kept: its file's name ("qltusr.ini"), its section and its key; all empty for an
+// unknown item. For tools outside the add-in that prepare the files it reads.
+struct ItemPlace {
+    Str file, section, key;
+};
+ItemPlace ItemPlaceOf(long item);
+
 // The default of an item as the table gives it: a text, a number (-1 / 0 for most Booleans and
 // 2 for Auto Prefix Variable Name) or, for the two "Make ... Constant True" items, a Boolean True.
 basic::Variant ItemDefault(long item);

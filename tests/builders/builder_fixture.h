@@ -3,7 +3,9 @@
 // on its blank line) and a class module (clsOrder), settings with every builder option off, the
 // builders registered, and UI scripts played against it.
 
+#include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -12,7 +14,9 @@
 #include "builders/builder_registry.h"
 #include "dialogs/ui_player.h"
 #include "settings/ini_vars.h"
+#include "script_setups.h"
 #include "source/keywords.h"
+#include "source/prefixes.h"
 
 namespace quillet::testing {
 
@@ -25,14 +29,20 @@ inline std::string scriptTestName(const ::testing::TestParamInfo<std::string>& i
 }
 
 class BuilderFixture : public FragmentsFixture {
+public:
+    // Every script of a sub-folder of tests/builders/scripts ("variable/cancel.uis"), in name order.
+    static std::vector<std::string> scriptsIn(const std::string& folder) {
+        std::vector<std::string> names;
+        for (const auto& entry :
+             std::filesystem::directory_iterator(std::string(QUILLET_SOURCE_DIR) + "/tests/builders/scripts/" + folder))
+            if (entry.path().extension() == ".uis") names.push_back(folder + "/" + entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
 protected:
     BuilderFixture() {
-        for (long item : {settings::iiAddHeaderProcedure, settings::iiAddProcedureConstant,
-                          settings::iiAddModuleConstantProcedure, settings::iiAddHourglassProcedure,
-                          settings::iiArgumentsOnSeparateLines, settings::iiAddReturnStatement})
-            settings().IniItemValue[item] = false;
-        set(settings::iiModuleNameConstant, u"cstrModule");
-        set(settings::iiProcedureNameConstant, u"cstrProcedure");
+        applySettings(builderSettings());
         ctx->HostName = u"Excel";
         ctx->Keywords = source::keywordList();
         openModule({u"Option Explicit", u"", u"Public Sub Existing()", u"End Sub"}, 2, 1);
@@ -44,6 +54,15 @@ protected:
             if (!component) return std::nullopt;
             return moduleText(module);
         };
+    }
+
+    void applySettings(const std::vector<std::pair<long, basic::Variant>>& values) {
+        for (const auto& [item, value] : values) settings().IniItemValue[item] = value;
+    }
+    // A folder's settings and prefix standard (its module is the test's to open).
+    void applySetup(const ScriptSetup& setup) {
+        applySettings(setup.settings);
+        ctx->Prefixes = source::PrefixesCollectionsCreate(source::PrefixSettings{}, setup.prefixes);
     }
 
     dialogs::UiScriptOutcome play(const std::string& script) {

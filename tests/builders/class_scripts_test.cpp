@@ -27,13 +27,7 @@ TEST_P(ClassScripts, LeaveTheExpectedModuleText) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Class, ClassScripts, ::testing::ValuesIn(PropertyFixture::scriptsIn("class")),
-                         [](const ::testing::TestParamInfo<std::string>& info) {
-                             std::string name = info.param.substr(info.param.find('/') + 1);
-                             name = name.substr(0, name.size() - 4);
-                             std::replace_if(name.begin(), name.end(),
-                                             [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
-                             return name;
-                         });
+                         scriptTestName);
 
 }  // namespace
 }  // namespace quillet::testing

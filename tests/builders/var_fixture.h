@@ -9,26 +9,10 @@
 
 namespace quillet::testing {
 
-// A prefix standard for the built-in types and the project's classes; the types left out
-// (enums, user types, Variant's kin) have no type prefix.
-inline std::vector<settings::TypePrefixRow> variablePrefixRows() {
-    return {
-        {u"Byte", u"byt", u"", u"", u""},       {u"Boolean", u"bln", u"f", u"", u""},
-        {u"Integer", u"int", u"i", u"", u""},   {u"Long", u"lng", u"l", u"", u""},
-        {u"Single", u"sng", u"", u"", u""},     {u"Double", u"dbl", u"d", u"", u""},
-        {u"Currency", u"cur", u"", u"", u""},   {u"Date", u"dtm", u"dat", u"", u""},
-        {u"String", u"str", u"s", u"", u""},    {u"Variant", u"var", u"", u"", u""},
-        {u"Object", u"obj", u"", u"", u""},     {u"Collection", u"col", u"", u"", u""},
-        {u"Decimal", u"dec", u"", u"", u""},
-    };
-}
-
 class VariableFixture : public BuilderFixture {
 protected:
     VariableFixture() {
-        ctx->Prefixes = source::PrefixesCollectionsCreate(source::PrefixSettings{}, variablePrefixRows());
-        settings().IniItemValue[settings::iiDeclarationIndented] = true;
-        settings().IniItemValue[settings::iiEachArgumentOnANewLine] = false;
+        applySetup(variableScriptSetup());
     }
 
     // Opens the builder on a module of its own ("basVars") holding `lines`, caret at (line, col).

@@ -1,5 +1,7 @@
 #include "bar_walk.h"
 
+#include <algorithm>
+
 namespace quillet::wine {
 
 namespace {
@@ -37,6 +39,13 @@ std::vector<ExpectedControl> expectedBar() {
     return out;
 }
 
+// A caption as a user reads it: no access key marks, no closing "...".
+Str plainCaption(Str caption) {
+    caption.erase(std::remove(caption.begin(), caption.end(), u'&'), caption.end());
+    if (caption.size() >= 3 && caption.compare(caption.size() - 3, 3, u"...") == 0) caption.resize(caption.size() - 3);
+    return caption;
+}
+
 host::CommandBarControlPtr controlAt(hosts::memory::MemoryVBE& vbe, const std::vector<Str>& captions) {
     auto bar = vbe.commandBars()->bar(u"Quillet");
     if (!bar) return nullptr;
@@ -45,7 +54,8 @@ host::CommandBarControlPtr controlAt(hosts::memory::MemoryVBE& vbe, const std::v
     for (const auto& caption : captions) {
         found = nullptr;
         for (long i = 1; controls && i <= controls->Count() && !found; ++i) {
-            if (controls->Item(i)->Caption() == caption) found = controls->Item(i);
+            const Str shown = controls->Item(i)->Caption();
+            if (shown == caption || plainCaption(shown) == caption) found = controls->Item(i);
         }
         if (!found) return nullptr;
         controls = found->Type() == host::msoControlPopup ? found->Controls() : nullptr;

@@ -36,8 +36,8 @@ std::vector<ExpectedControl> expectedBar();
 // none when a step is missing.
 host::CommandBarControlPtr controlAt(hosts::memory::MemoryVBE& vbe, const std::vector<Str>& captions);
 
-// Clicks a control as the editor does: through the sinks advised on it. A missing control fails
-// a check and gives false.
+// Clicks a control as the editor does: through the sinks advised on it. Each caption matches as
+// shown ("Collectio&n...") or as read ("Collection"). A missing control fails a check and gives false.
 bool clickBar(Checks& c, hosts::memory::MemoryVBE& vbe, const std::vector<Str>& captions);
 
 // The whole text of a module of the active project, lines joined by CRLF.

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "../builders/script_setups.h"
 #include "bar_walk.h"
 #include "basic/strings.h"
 #include "basic/unicode.h"
@@ -19,16 +20,37 @@ namespace quillet::wine {
 namespace {
 
 
-// The scripts are written for a Procedure Builder with every option off.
-void builderOptionsOff() {
+std::wstring wide(const Str& text) { return std::wstring(text.begin(), text.end()); }
+
+void writeSetting(const std::wstring& folder, long item, const basic::Variant& value) {
+    const settings::ItemPlace place = settings::ItemPlaceOf(item);
+    WritePrivateProfileStringW(wide(place.section).c_str(), wide(place.key).c_str(),
+                               wide(settings::ValueText(value)).c_str(), (folder + L"\\" + wide(place.file)).c_str());
+}
+
+std::wstring settingsFolder() {
     wchar_t appData[MAX_PATH] = {};
-    if (!GetEnvironmentVariableW(L"APPDATA", appData, MAX_PATH)) return;
+    if (!GetEnvironmentVariableW(L"APPDATA", appData, MAX_PATH)) return {};
     std::wstring folder = std::wstring(appData) + L"\\Quillet";
     CreateDirectoryW(folder.c_str(), nullptr);
-    std::wstring file = folder + L"\\qltusr.ini";
-    for (const wchar_t* key : {L"Add Header Procedure", L"Add Procedure Constant", L"Add Module Constant Procedure",
-                               L"Add Hourglass Procedure", L"Arguments on Separate Lines", L"Add Return Statement"})
-        WritePrivateProfileStringW(L"Procedure Builder", key, L"0", file.c_str());
+    return folder;
+}
+
+// Writes a script folder's settings and prefix standard into the files the add-in reads at its
+// connection, as a user's Settings dialog would have left them.
+void writeSetup(const testing::ScriptSetup& setup) {
+    const std::wstring folder = settingsFolder();
+    if (folder.empty()) return;
+    for (const auto& [item, value] : testing::builderSettings()) writeSetting(folder, item, value);
+    for (const auto& [item, value] : setup.settings) writeSetting(folder, item, value);
+    const std::wstring prefixFile = folder + L"\\qlttp.ini";
+    WritePrivateProfileStringW(L"Prefix", nullptr, nullptr, prefixFile.c_str());
+    for (const auto& row : setup.prefixes) {
+        Str prefixes;
+        for (size_t i = 1; i < row.size(); ++i)
+            if (!row[i].empty()) prefixes += (prefixes.empty() ? u"" : u",") + row[i];
+        WritePrivateProfileStringW(L"Prefix", wide(row[0]).c_str(), wide(prefixes).c_str(), prefixFile.c_str());
+    }
 }
 
 std::vector<std::wstring> scriptFiles(const std::wstring& folder) {
@@ -91,6 +113,16 @@ void connectForDialogs(Session& s) {
 WindowSurface builderSurface(Checks& c, Session& s, BoxAnswerer& boxes, dialogs::UiScriptHooks& hooks) {
     WindowSurface surface;
     surface.addOpener(u"frmProcedure", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"Add P&rocedure..."}); });
+    surface.addOpener(u"frmVar", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"&Add Variable..."}); });
+    // The Property Builder with a type: the entry of that type on the "&Property" pop-up.
+    surface.addOpener(u"frmProperty", [&c, &s](const std::vector<Str>& args) {
+        if (args.empty()) {
+            clickBar(c, s.vbe(), {u"&Add Property..."});
+            return;
+        }
+        clickBar(c, s.vbe(), {u"&Quillet"});  // the pop-up opening sets its entries
+        clickBar(c, s.vbe(), {u"&Quillet", u"&Property", args[0]});
+    });
     hooks.answer = [&boxes](const Str& answer) { boxes.queue(std::wstring(answer.begin(), answer.end())); };
     hooks.moduleText = [&s](const Str& module) -> std::optional<Str> {
         if (!s.vbe().activeProject()->component(module)) return std::nullopt;
@@ -99,13 +131,28 @@ WindowSurface builderSurface(Checks& c, Session& s, BoxAnswerer& boxes, dialogs:
     return surface;
 }
 
-void playBuilderScript(Checks& c, BoxAnswerer& boxes, const std::wstring& folder, const std::wstring& name) {
-    Session s(c, editorForBuilders());
+// The builders' project with the folder's module, if it has one, holding the caret of the
+// script's "# at" line.
+std::shared_ptr<MemoryVBE> editorForScript(const testing::ScriptSetup& setup, const std::string& script) {
+    auto vbe = editorForBuilders();
+    std::string module;
+    long line = 1, col = 1;
+    if (setup.module.empty() || !testing::scriptCaret(script, module, line, col)) return vbe;
+    auto component = vbe->activeProject()->addComponent(basic::fromUtf8(module), host::vbext_ct_StdModule, setup.module);
+    vbe->openPane(component)->SetSelection(line, col, line, col);
+    vbe->setSelectedComponent(component);
+    return vbe;
+}
+
+void playBuilderScript(Checks& c, BoxAnswerer& boxes, const testing::ScriptSetup& setup, const std::wstring& folder,
+                       const std::wstring& name) {
+    const std::string script = fileText(folder + L"\\" + name);
+    Session s(c, editorForScript(setup, script));
     if (!s.created()) return;
     connectForDialogs(s);
     dialogs::UiScriptHooks hooks;
     WindowSurface surface = builderSurface(c, s, boxes, hooks);
-    auto outcome = dialogs::playUiScript(basic::fromUtf8(fileText(folder + L"\\" + name)), surface, hooks);
+    auto outcome = dialogs::playUiScript(basic::fromUtf8(script), surface, hooks);
     c.check(outcome.passed(), "the windows play " + narrow(name), narrow(outcome.describe()));
     c.check(boxes.pending() == 0, narrow(name) + ": every answer was taken by a box");
     closeDialogs();
@@ -113,6 +160,14 @@ void playBuilderScript(Checks& c, BoxAnswerer& boxes, const std::wstring& folder
     s.release();
     c.check(s.ledger().live == 0, narrow(name) + ": every editor object is released",
             std::to_string(s.ledger().live) + " held");
+}
+
+// Every script of a folder, on the settings and project the folder's scripts assume.
+void playScriptFolder(Checks& c, BoxAnswerer& boxes, const testing::ScriptSetup& setup, const std::wstring& folder) {
+    writeSetup(setup);
+    auto names = scriptFiles(folder);
+    c.check(!names.empty(), "the builders' UI scripts are found", narrow(folder));
+    for (const auto& name : names) playBuilderScript(c, boxes, setup, folder, name);
 }
 
 // A refused name (taken by a procedure of the module) keeps the builder open with the focus back
@@ -204,10 +259,11 @@ void faultsInTheBuildersOK(Checks& c, BoxAnswerer& boxes) {
 }
 
 void runDialogScenarios(Checks& c, BoxAnswerer& boxes, const std::wstring& scriptsFolder) {
-    builderOptionsOff();
-    auto names = scriptFiles(scriptsFolder);
-    c.check(!names.empty(), "the builders' UI scripts are found", narrow(scriptsFolder));
-    for (const auto& name : names) playBuilderScript(c, boxes, scriptsFolder, name);
+    playScriptFolder(c, boxes, {}, scriptsFolder);
+    playScriptFolder(c, boxes, testing::variableScriptSetup(), scriptsFolder + L"\\variable");
+    playScriptFolder(c, boxes, testing::propertyScriptSetup(), scriptsFolder + L"\\property");
+    // The scenarios and pictures that follow expect the builders' settings alone.
+    writeSetup({});
     refusedNameTakesFocus(c, boxes);
     faultsInTheBuildersOK(c, boxes);
 }
