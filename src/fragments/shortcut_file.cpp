@@ -13,6 +13,9 @@ using basic::Compare;
 
 namespace {
 
+// Links are a few hundred bytes; a file far larger is not read whole to find out that it is none.
+constexpr std::uintmax_t kLargestShortcut = 1 << 20;
+
 Str folderOf(const Str& file) {
     long slash = basic::InStrRev(file, u"\\");
     return slash > 0 ? basic::Left(file, slash - 1) : Str();
@@ -51,6 +54,11 @@ Str CombinePath(const Str& folder, const Str& relative) {
 
 ShortcutTarget ReadShortcut(const settings::FileSystem& files, const Str& linkFile) {
     ShortcutTarget result;
+    auto stamp = files.Stamp(linkFile);
+    if (stamp && stamp->first > kLargestShortcut) {
+        result.Error = u"The file is too large to be a shortcut.";
+        return result;
+    }
     std::string bytes;
     if (int error = files.ReadAll(linkFile, bytes)) {
         result.Error = u"The shortcut cannot be read: " + errorText(error);

@@ -48,6 +48,8 @@ TEST_F(ShortcutFile, AMissingOrDamagedLinkSaysWhy) {
     ShortcutTarget bad = ReadShortcut(settings.Files, fragments + u"\\bad.lnk");
     EXPECT_FALSE(bad.Ok);
     EXPECT_NE(bad.Error.find(u"not a shortcut"), Str::npos);
+    writeBytes("lib/Fragments/huge.lnk", std::string((1 << 20) + 1, '\0'));
+    EXPECT_EQ(ReadShortcut(settings.Files, fragments + u"\\huge.lnk").Error, u"The file is too large to be a shortcut.");
     using namespace testing;
     writeBytes("lib/Fragments/empty.lnk", linkHeader(0));
     EXPECT_EQ(ReadShortcut(settings.Files, fragments + u"\\empty.lnk").Error, u"The shortcut names no target.");
