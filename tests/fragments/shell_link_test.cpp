@@ -11,6 +11,15 @@ namespace {
 
 using namespace testing;
 
+void expectError(const std::string& bytes, const std::string& words) {
+    try {
+        ParseShellLink(bytes);
+        ADD_FAILURE() << "no error for: " << words;
+    } catch (const ShellLinkError& error) {
+        EXPECT_NE(std::string(error.what()).find(words), std::string::npos) << error.what();
+    }
+}
+
 TEST(ShellLink, LinkToALocalFileReadsBackItsTargetFolderAndRelativePath) {
     ShellLink link = ShellLinkTo(u"C:\\Users\\ann\\quillet\\Fragments\\Loops\\For Each.bas",
                                  u"C:\\Users\\ann\\quillet\\Fragments\\Favourites");
@@ -104,21 +113,27 @@ TEST(ShellLink, ReadsALinkThatHoldsOnlyARelativePath) {
     EXPECT_EQ(read.RelativePath, u"..\\A\\x.bas");
 }
 
+TEST(ShellLink, ReadsANetworkLocationInTheIdList) {
+    std::string share;
+    le16(share, 5 + 14);
+    share += std::string("\x41\0\x80", 3) + std::string("\\\\server\\code") + '\0';  // type, unknown, flags, name
+    std::string items = share + fileEntryItem(false, "X~1.BAS", u"x.bas");
+    std::string bytes = linkHeader(link_flags::HasLinkTargetIDList) + idList(items);
+    EXPECT_EQ(ParseShellLink(bytes).IdListPath, u"\\\\server\\code\\x.bas");
+}
+
+TEST(ShellLink, AnIdListItemLongerThanItsListIsReported) {
+    std::string item = volumeItem("C:\\");
+    item[0] = 60;
+    expectError(linkHeader(link_flags::HasLinkTargetIDList) + idList(item), "ID list item runs past");
+}
+
 TEST(ShellLink, AnIdListOfAnUnknownItemKindGivesNoPath) {
     std::string item;
     le16(item, 6);
     item += std::string("\x71\0\0\0", 4);
     std::string bytes = linkHeader(link_flags::HasLinkTargetIDList) + idList(item);
     EXPECT_TRUE(ParseShellLink(bytes).IdListPath.empty());
-}
-
-void expectError(const std::string& bytes, const std::string& words) {
-    try {
-        ParseShellLink(bytes);
-        ADD_FAILURE() << "no error for: " << words;
-    } catch (const ShellLinkError& error) {
-        EXPECT_NE(std::string(error.what()).find(words), std::string::npos) << error.what();
-    }
 }
 
 TEST(ShellLink, AFileThatIsNotALinkSaysSo) {
