@@ -13,6 +13,7 @@ build=build-fuzz
 targets=(source_fuzz_parsers source_fuzz_scans)
 targets+=(typelib_fuzz)
 targets+=(tools_fuzz_tokens)
+targets+=(lnk_fuzz)
 
 # libFuzzer's runtime comes with compiler-rt, which apt only recommends with clang.
 if ! command -v clang++ >/dev/null 2>&1 || ! dpkg -s libclang-rt-14-dev >/dev/null 2>&1; then

@@ -8,6 +8,8 @@ packages+=(wine64-tools)
 # The mingw binutils put those libraries into 32- and 64-bit DLLs as resources, so the reader's
 # tests of PE files run in every build, not only after the Windows toolchain is installed.
 packages+=(binutils-mingw-w64-x86-64 binutils-mingw-w64-i686)
+# liblnk's lnkinfo reads the shortcut files the fragment library writes, in a differential test.
+packages+=(liblnk-dev liblnk-utils)
 missing=()
 for p in "${packages[@]}"; do
     dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")

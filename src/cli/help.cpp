@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/version.h"
+#include "cli/fragments_command.h"
 #include "cli/settings_command.h"
 
 namespace quillet::cli {
@@ -24,6 +25,7 @@ constexpr const char* kToolHelp =
     "  scan     show what the scans see of a project, a module or a procedure\n"
     "  typelib  show what a type library offers: groups, procedures, enums, classes\n"
     "  html     write a module as a page of coloured HTML\n"
+    "  fragments list the fragment library as the Fragment Builder shows it\n"
     "  help     show the help of a command (quillet help run)\n"
     "  version  show the version\n"
     "\n"
@@ -164,6 +166,7 @@ std::string helpText(Verb verb) {
         case Verb::Scan: return kScanHelp;
         case Verb::Typelib: return kTypelibHelp;
         case Verb::Html: return kHtmlHelp;
+        case Verb::Fragments: return fragmentsHelpText();
         default: return kToolHelp;
     }
 }

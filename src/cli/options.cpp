@@ -43,7 +43,8 @@ std::pair<Str, std::string> modulePart(const std::string& text, const std::strin
 Verb verbNamed(const std::string& word) {
     static const std::map<std::string, Verb> verbs = {
         {"run", Verb::Run}, {"list", Verb::List}, {"play", Verb::Play}, {"help", Verb::Help}, {"version", Verb::Version},
-        {"settings", Verb::Settings}, {"scan", Verb::Scan}, {"typelib", Verb::Typelib}, {"html", Verb::Html}};
+        {"settings", Verb::Settings}, {"scan", Verb::Scan}, {"typelib", Verb::Typelib}, {"html", Verb::Html},
+        {"fragments", Verb::Fragments}};
     auto found = verbs.find(word);
     if (found == verbs.end()) throw UsageError("unknown command \"" + word + "\"");
     return found->second;
@@ -202,6 +203,14 @@ void checkHtml(const ToolOptions& options, const std::vector<std::string>& posit
     }
 }
 
+void checkFragments(const ToolOptions& options, const std::vector<std::string>& positionals) {
+    if (!positionals.empty()) throw UsageError("fragments takes no arguments; unexpected \"" + positionals[0] + "\"");
+    if (options.at || options.select || !options.answers.empty() || options.dryRun || options.scanModule ||
+        options.output) {
+        throw UsageError("fragments takes only --project, --json, --settings, --data and --code-page");
+    }
+}
+
 }  // namespace
 
 Location parseLocation(const std::string& text) {
@@ -253,6 +262,7 @@ ToolOptions parseArguments(const std::vector<std::string>& args) {
         case Verb::Scan: checkScan(options, positionals); break;
         case Verb::Typelib: checkTypelib(options, positionals); break;
         case Verb::Html: checkHtml(options, positionals); break;
+        case Verb::Fragments: checkFragments(options, positionals); break;
         case Verb::Help:
             // "quillet help run" is "quillet run --help".
             if (!positionals.empty()) {

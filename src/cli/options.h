@@ -33,7 +33,7 @@ struct SelectionSpec {
     long startLine = 1, startColumn = 1, endLine = 1, endColumn = 1;
 };
 
-enum class Verb { Help, Version, Run, List, Play, Settings, Scan, Typelib, Html };
+enum class Verb { Help, Version, Run, List, Play, Settings, Scan, Typelib, Html, Fragments };
 
 struct ToolOptions {
     Verb verb = Verb::Help;

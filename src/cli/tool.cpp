@@ -1,6 +1,7 @@
 #include "cli/tool.h"
 
 #include "basic/vb_error.h"
+#include "cli/fragments_command.h"
 #include "cli/help.h"
 #include "cli/html_command.h"
 #include "cli/options.h"
@@ -17,7 +18,8 @@ namespace {
 
 std::string helpHint(const std::vector<std::string>& args) {
     bool verb = !args.empty() && (args[0] == "run" || args[0] == "list" || args[0] == "play" || args[0] == "settings" ||
-                             args[0] == "scan" || args[0] == "typelib" || args[0] == "html");
+                             args[0] == "scan" || args[0] == "typelib" || args[0] == "html" ||
+                             args[0] == "fragments");
     return verb ? "Try 'quillet " + args[0] + " --help'." : "Try 'quillet --help'.";
 }
 
@@ -37,6 +39,7 @@ int dispatch(const ToolOptions& options, std::ostream& out, std::ostream& err) {
         case Verb::Scan: return scanProject(options, out, err);
         case Verb::Typelib: return typelibCommand(options, out, err);
         case Verb::Html: return htmlPage(options, out, err);
+        case Verb::Fragments: return fragmentsCommand(options, out, err);
         default: return kExitOk;
     }
 }
