@@ -38,7 +38,7 @@ protected:
 
 std::vector<std::string> scriptNames() {
     std::vector<std::string> names;
-    for (const char* folder : {"variable"}) {
+    for (const char* folder : {"variable", "constant"}) {
         auto path = std::filesystem::path(QUILLET_SOURCE_DIR) / "tests/builders/scripts" / folder;
         for (const auto& entry : std::filesystem::directory_iterator(path))
             if (entry.path().extension() == ".uis") names.push_back(std::string(folder) + "/" + entry.path().filename().string());
