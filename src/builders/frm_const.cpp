@@ -93,7 +93,8 @@ void frmConst::Accessibility(long value) {
     if (list.ListCount() > 0) list.ListIndex(at >= 0 ? at : 0);
 }
 
-long frmConst::VarLevel() { return inProcedure_ && Accessibility() == 0 ? 1 : 0; }
+// A constant for another module is one of that module, whatever the caret's place.
+long frmConst::VarLevel() { return inProcedure_ && targetIsCurrent_ && Accessibility() == 0 ? 1 : 0; }
 
 void frmConst::Form_Activate() { NameSelectedOnFirstShow(*this, firstShow_); }
 
@@ -155,6 +156,7 @@ void frmConst::AccessibilityComboBoxFill() {
         auto current = ctx_.VBInstance->SelectedVBComponent();
         selected = current && current->Name() == component->Name();
     }
+    targetIsCurrent_ = selected;
     refreshing_ = true;
     list.Clear();
     if (selected) {

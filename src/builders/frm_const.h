@@ -67,6 +67,7 @@ private:
     DeclarationLists lists_;
     CaretPlace place_;
     bool inProcedure_ = false;
+    bool targetIsCurrent_ = true;
     bool loading_ = false;
     bool refreshing_ = false;
     bool nameByProgram_ = false;

@@ -73,6 +73,30 @@ TEST_F(ConstantBuilder, AnotherModuleOffersPublicOnlyAndAnotherClassNothing) {
     EXPECT_EQ(entries(form, u"cboAccessibility"), (std::vector<Str>{u"Public"}));
 }
 
+TEST_F(ConstantBuilder, AConstantForAnotherClassGoesToItsDeclarationsWithoutKeyword) {
+    auto& form = openConstOn(kModule, 11, 5);
+    ctx->Forms->Raise([&] { form.Controls(u"cboModule").ListIndex(source::FindInList(form.Controls(u"cboModule"), u"clsOrder")); });
+    EXPECT_EQ(form.VarLevel(), 0);
+    typeName(form, u"cstrTable");
+    setText(form, u"txtValue", u"Orders");
+    click(form, u"cmdOK");
+    EXPECT_FALSE(constOpen());
+    EXPECT_EQ(vars(), joinLines(kModule));
+    EXPECT_EQ(moduleText(u"clsOrder"), joinLines({u"Option Explicit", u"Const cstrTable As String = \"Orders\""}));
+}
+
+TEST_F(ConstantBuilder, ANewModuleWhoseNameIsCancelledWritesNothing) {
+    auto& form = openConstOn(kModule, 11, 5);
+    ctx->Forms->Raise([&] { form.Controls(u"cboModule").ListIndex(0); });
+    typeName(form, u"gcstrTable");
+    setText(form, u"txtValue", u"Orders");
+    platform->queueAnswer(u"cancel");
+    click(form, u"cmdOK");
+    EXPECT_TRUE(constOpen());
+    EXPECT_EQ(vars(), joinLines(kModule));
+    EXPECT_EQ(project->VBComponents()->Count(), 3);
+}
+
 TEST_F(ConstantBuilder, TheTypesAreValueTypesAndVariantWithStringChosen) {
     auto& form = openConstOn(kModule, 11, 5);
     auto types = entries(form, u"cboDataType");
