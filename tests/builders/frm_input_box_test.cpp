@@ -174,6 +174,25 @@ TEST_F(QuickInputBox, ARefusedNameKeepsTheBoxAndCancelClosesIt) {
     EXPECT_EQ(vars(), joinLines(kModule));
 }
 
+TEST_F(QuickInputBox, APropertyNameIsHandedToThePropertyBuilder) {
+    openModule(kModule, 14, 17, u"basVars");
+    ASSERT_TRUE(ctx->Forms->Open(u"frmInputBox", {u"Property", u"String"}));
+    auto& box = top<frmInputBox>();
+    EXPECT_EQ(box.Caption, u"Property (String)");
+    EXPECT_FALSE(box.Tall());
+    // No prefix for a property.
+    EXPECT_EQ(box.Controls(u"txtName").Text(), u"Total");
+    setText(box, u"txtName", u"Amount");
+    click(box, u"cmdOK");
+    EXPECT_FALSE(boxOpen());
+    auto* builder = ctx->Forms->FindOpen(u"frmProperty");
+    ASSERT_NE(builder, nullptr);
+    // The name arrives as if typed there, and the Property Builder's own naming rule applies.
+    EXPECT_EQ(builder->Controls(u"txtName").Text(), u"strAmount");
+    EXPECT_EQ(builder->Controls(u"cboDataType").Text(), u"String");
+    EXPECT_EQ(vars(), joinLines(kModule));
+}
+
 TEST_F(QuickInputBox, CancelLeavesTheModuleByteIdentical) {
     openModule(kModule, 14, 17, u"basVars");
     auto& box = quick(u"Const", u"String");
