@@ -55,10 +55,13 @@ void openBuilder(Context& ctx, const Str& formName, const Str& type) {
 
 void propertyBuilder(Context& ctx, const Str&, const Str& type) { openBuilder(ctx, u"frmProperty", type); }
 
+// The quick input box of a declaration: the command word says variable or constant.
+void inputBox(Context& ctx, const Str& command, const Str& type) { ctx.Forms->Open(u"frmInputBox", {command, type}); }
+
 const std::vector<Route>& routes() {
     static const std::vector<Route> table = {
-        {u"Dim", notAvailableYet},
-        {u"Const", notAvailableYet},
+        {u"Dim", inputBox},
+        {u"Const", inputBox},
         {u"Property", propertyBuilder},
         {u"Enum", notAvailableYet},
         {u"Type", notAvailableYet},

@@ -8,6 +8,8 @@ void AddBuilderLayouts(dialogs::LayoutCatalog& catalog) {
     catalog.Add(u"frmProperty", frmPropertyLayout);
     catalog.Add(u"frmClass", frmClassLayout);
     catalog.Add(u"frmVar", frmVarLayout);
+    catalog.Add(u"frmConst", frmConstLayout);
+    catalog.Add(u"frmInputBox", frmInputBoxLayout);
 }
 
 }  // namespace quillet::builders

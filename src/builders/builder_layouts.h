@@ -10,6 +10,8 @@ dialogs::FormLayout frmArgumentLayout();
 dialogs::FormLayout frmPropertyLayout();
 dialogs::FormLayout frmClassLayout();
 dialogs::FormLayout frmVarLayout();
+dialogs::FormLayout frmConstLayout();
+dialogs::FormLayout frmInputBoxLayout();
 
 // Adds every builder's layout to the catalogue, by form name.
 void AddBuilderLayouts(dialogs::LayoutCatalog& catalog);

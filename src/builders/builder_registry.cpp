@@ -1,6 +1,8 @@
 #include "builders/builder_registry.h"
 
 #include "builders/frm_class.h"
+#include "builders/frm_const.h"
+#include "builders/frm_input_box.h"
 #include "builders/frm_procedure.h"
 #include "builders/frm_property.h"
 #include "builders/frm_var.h"
@@ -22,6 +24,8 @@ void RegisterBuilders(core::Context& ctx) {
     RegisterBuilder(ctx, u"frmProperty", [&ctx](const std::vector<Str>& args) { OpenPropertyBuilder(ctx, args); });
     RegisterBuilder(ctx, u"frmClass", [&ctx](const std::vector<Str>& args) { OpenClassBuilder(ctx, args); });
     RegisterBuilder(ctx, u"frmVar", [&ctx](const std::vector<Str>& args) { OpenVariableBuilder(ctx, args); });
+    RegisterBuilder(ctx, u"frmConst", [&ctx](const std::vector<Str>& args) { OpenConstantBuilder(ctx, args); });
+    RegisterBuilder(ctx, u"frmInputBox", [&ctx](const std::vector<Str>& args) { OpenInputBox(ctx, args); });
 }
 
 }  // namespace quillet::builders

@@ -15,44 +15,7 @@ namespace {
 
 bool is(const Str& a, const Str& b) { return basic::StrComp(a, b, basic::Compare::Text) == 0; }
 
-bool continues(const Str& line) {
-    Str trimmed = basic::Trim(line);
-    return !trimmed.empty() && trimmed.back() == u'_';
-}
-
-// The list entry whose ItemData is `data`, -1 when none.
-long entryWithData(const dialogs::Control& list, long data) {
-    for (long i = 0; i < list.ListCount(); ++i)
-        if (list.ItemData(i) == data) return i;
-    return -1;
-}
-
 }  // namespace
-
-CaretPlace CaretPlaceGet(host::VBE& vbe) {
-    CaretPlace place;
-    auto pane = vbe.ActiveCodePane();
-    if (!pane) return place;
-    long line = 0, col = 0, endLine = 0, endCol = 0;
-    pane->GetSelection(line, col, endLine, endCol);
-    auto module = pane->CodeModule();
-    long count = module->CountOfLines();
-    if (line < 1 || line > count) return place;
-    Str name = module->ProcOfLine(line, place.procKind);
-    if (name.empty()) return place;
-    long body = module->ProcBodyLine(name, place.procKind);
-    long headerEnd = body;
-    while (headerEnd < count && continues(module->Lines(headerEnd, 1))) ++headerEnd;
-    long last = module->ProcStartLine(name, place.procKind) + module->ProcCountLines(name, place.procKind) - 1;
-    while (last > headerEnd && basic::Trim(module->Lines(last, 1)).empty()) --last;
-    if (line < body || line > last) return place;
-    place.procName = name;
-    place.bodyLine = body;
-    place.headerEnd = headerEnd;
-    place.inProcedure = true;
-    place.inHeader = line <= headerEnd;
-    return place;
-}
 
 const std::array<Str, 6>& frmVar::AccessibilityItem() {
     static const std::array<Str, 6> items = {u"Dim - Module", u"Dim - Procedure", u"Interface",
@@ -72,9 +35,7 @@ frmVar::~frmVar() = default;
 
 void frmVar::addControls() {
     AddControl(u"txtName", ControlKind::TextBox);
-    auto& objectName = AddControl(u"cmdObjectName", ControlKind::CommandButton);
-    objectName.Caption = u"...";
-    objectName.ToolTipText = u"Open Object Name Dialog";
+    AddObjectNameButton(*this);
     AddControl(u"cboDataType", ControlKind::ComboBox);
     AddControl(u"lblLength", ControlKind::Label).Caption = u"&Length:";
     AddControl(u"txtLength", ControlKind::TextBox);
@@ -96,10 +57,7 @@ void frmVar::addControls() {
     AddControl(u"chkWith", ControlKind::CheckBox).Caption = u"With &...";
     AddControl(u"chkNothing", ControlKind::CheckBox).Caption = u"Set = Nothin&g";
     AddControl(u"chkNew", ControlKind::CheckBox).Caption = u"Set = N&ew";
-    AddControl(u"cmdOK", ControlKind::CommandButton).Caption = u"OK";
-    AddControl(u"cmdOKAndPaste", ControlKind::CommandButton).Caption = u"OK && &Paste";
-    AddControl(u"cmdCancel", ControlKind::CommandButton).Caption = u"Cancel";
-    AddControl(u"cmdHelp", ControlKind::CommandButton).Caption = u"&Help";
+    AddOkPasteButtons(*this);
 }
 
 void frmVar::hookEvents() {
@@ -147,9 +105,7 @@ void frmVar::hookEvents() {
         if (done && Loaded()) Unload();
     });
     On(u"cmdCancel_Click", [this] { Unload(); });
-    On(u"cmdObjectName_Click", [this] {
-        if (ctx_.Forms->IsRegistered(u"frmObjectName")) ctx_.Forms->Open(u"frmObjectName");
-    });
+    On(u"cmdObjectName_Click", [this] { guard(u"cmdObjectName_Click", [this] { ObjectNameOpen(ctx_); }); });
     Method(u"ArgInsert", [this](const basic::Args& args) {
         ArgInsert(args.empty() ? Str() : basic::CStr(args.at(0)), args.size() > 1 ? basic::CStr(args.at(1)) : Str());
         return basic::Variant{};
@@ -184,7 +140,7 @@ long frmVar::Accessibility() {
 void frmVar::Accessibility(long index) {
     auto& list = Controls(u"cboAccessibility");
     if (list.ListCount() == 0) return;
-    long at = index == 0 ? 0 : entryWithData(list, index);
+    long at = index == 0 ? 0 : EntryWithData(list, index);
     list.ListIndex(at >= 0 ? at : 0);
 }
 
@@ -203,14 +159,7 @@ long frmVar::VarLevel() {
 // The getter gives 4 for "Static", so a static variable is written with Dim, as it always was.
 bool frmVar::IsStatic() { return Accessibility() == 6; }
 
-void frmVar::Form_Activate() {
-    if (!firstShow_) return;
-    firstShow_ = false;
-    auto& name = Controls(u"txtName");
-    name.SelStart = 0;
-    name.SelLength = basic::Len(name.Text());
-    FocusedControl = u"txtName";
-}
+void frmVar::Form_Activate() { NameSelectedOnFirstShow(*this, firstShow_); }
 
 void frmVar::Form_Unload() {
     help_.Terminate();
@@ -257,36 +206,14 @@ void frmVar::Init(const Str& vstrPredeterminedTypes, bool vfOnlyPredeterminedTyp
     loading_ = false;
     guard(u"Init", [this] { SetControlsState(); });
     if (Controls(u"cmdObjectName").Visible)
-        Controls(u"cmdObjectName").Visible = is(ctx_.HostName, u"Excel") || is(ctx_.HostName, u"Word") ||
-                                            is(ctx_.HostName, u"Access");
+        Controls(u"cmdObjectName").Visible = HostHasObjectNames(ctx_);
 }
 
 void frmVar::contextRead() {
     place_ = CaretPlaceGet(*ctx_.VBInstance);
-    if (auto* owner = dynamic_cast<DeclarationOwner*>(ParentForm)) {
-        lists_.ModuleVars = owner->ModuleVars();
-        lists_.ModuleConsts = owner->ModuleConsts();
-        lists_.ProcVars = owner->ProcVars();
-        lists_.ProcConsts = owner->ProcConsts();
-        lists_.ModuleProcs = owner->ModuleProcs();
-        if (place_.inProcedure) CurrentProcArgGet();
-        return;
-    }
-    source::clsScanModule module(ctx_.scanEnv());
-    module.init(u"");
-    lists_.ModuleVars = std::move(module.ModuleVars);
-    lists_.ModuleConsts = std::move(module.ModuleConsts);
-    lists_.ModuleEnums = std::move(module.ModuleEnums);
-    lists_.ModuleTypes = std::move(module.ModuleTypes);
-    lists_.ModuleProcs = std::move(module.ModuleProcs);
-    if (place_.inProcedure) {
-        source::clsScanProc proc(ctx_.scanEnv());
-        proc.init(false);
-        lists_.ProcVars = std::move(proc.ProcVars);
-        lists_.ProcConsts = std::move(proc.ProcConsts);
-        CurrentProcArgGet();
-    }
-    pickedUpName_ = source::CurrentWordGet(*ctx_.VBInstance);
+    bool lent = DeclarationListsRead(ctx_, ParentForm, place_, lists_);
+    if (place_.inProcedure) CurrentProcArgGet();
+    if (!lent) pickedUpName_ = source::CurrentWordGet(*ctx_.VBInstance);
 }
 
 void frmVar::LoadCombos() { AccessibilityComboBoxFill(); }
@@ -368,10 +295,10 @@ void frmVar::levelFromScope(long scope) {
     auto& list = Controls(u"cboAccessibility");
     long at = -1;
     switch (scope) {
-        case source::ScopeGlobal: at = entryWithData(list, 4); break;
-        case source::ScopeModule: at = entryWithData(list, 1); break;
+        case source::ScopeGlobal: at = EntryWithData(list, 4); break;
+        case source::ScopeModule: at = EntryWithData(list, 1); break;
         case source::ScopeByRef:
-        case source::ScopeByVal: at = entryWithData(list, 3); break;
+        case source::ScopeByVal: at = EntryWithData(list, 3); break;
         default: break;
     }
     if (list.ListCount() > 0) list.ListIndex(at >= 0 ? at : 0);

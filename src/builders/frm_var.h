@@ -7,6 +7,7 @@
 #include <array>
 #include <memory>
 
+#include "builders/declaration_context.h"
 #include "core/context.h"
 #include "dialogs/form.h"
 #include "source/scan_module.h"
@@ -16,41 +17,6 @@
 namespace quillet::builders {
 
 using basic::Str;
-
-// A dialog that opens a declaration builder as its sub-dialog and lends it its lists instead of
-// a scan of its own. The builder reports back by name (AddNewVar, AddNewConst, ArgInsert,
-// NewVariable) on the parent form.
-class DeclarationOwner {
-public:
-    virtual ~DeclarationOwner() = default;
-    virtual basic::Collection<source::clsVariablePtr>& ModuleVars() = 0;
-    virtual basic::Collection<source::clsConstantPtr>& ModuleConsts() = 0;
-    virtual basic::Collection<source::clsVariablePtr>& ProcVars() = 0;
-    virtual basic::Collection<source::clsConstantPtr>& ProcConsts() = 0;
-    virtual basic::Collection<source::C4_ProcDefPtr>& ModuleProcs() = 0;
-};
-
-// The lists a declaration builder checks a new name against and places code by.
-struct DeclarationLists {
-    basic::Collection<source::clsVariablePtr> ModuleVars;
-    basic::Collection<source::clsConstantPtr> ModuleConsts;
-    basic::Collection<source::clsEnumPtr> ModuleEnums;
-    basic::Collection<source::clsTypePtr> ModuleTypes;
-    basic::Collection<source::C4_ProcDefPtr> ModuleProcs;
-    basic::Collection<source::clsVariablePtr> ProcVars;
-    basic::Collection<source::clsConstantPtr> ProcConsts;
-};
-
-// Where the caret stands: the procedure around it and whether it is on the procedure's header.
-struct CaretPlace {
-    Str procName;
-    long procKind = 0;
-    long bodyLine = 0;     // the header's first line
-    long headerEnd = 0;    // the header's last line (continuations included)
-    bool inProcedure = false;
-    bool inHeader = false;
-};
-CaretPlace CaretPlaceGet(host::VBE& vbe);
 
 class frmVar : public dialogs::Form {
 public:

@@ -13,11 +13,7 @@ namespace {
 
 using namespace grid;
 
-constexpr int kWidth = widthForButtons(4);
-constexpr int kRight = kWidth - kDluMargin;
-constexpr int kLabelWidth = 52;
-constexpr int kBoxX = kDluMargin + kLabelWidth + kDluSpacing;
-constexpr int kBoxWidth = kRight - kBoxX;
+using namespace column;
 constexpr int kFrameWidth = (kRight - kDluMargin - 8) / 2;
 constexpr int kFrameHeight = kFrameTop + 3 * kCheckRow + 2 * kRow + kDluMargin - kDluSpacing;
 constexpr int kFrameLabel = 30;

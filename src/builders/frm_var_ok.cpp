@@ -30,39 +30,6 @@ long number(const Str& text) {
     return value;
 }
 
-template <class C>
-source::NameLookup lookupInPtr(const C& collection) {
-    return [&collection](const Str& key) { return collection && collection->Exists(key); };
-}
-
-// The caret of a pane and the text of its line, to find the line again once lines went in above.
-struct CaretMark {
-    long line = 0, col = 0;
-    long count = 0;
-    Str text;
-};
-
-CaretMark caretMark(host::CodePane& pane) {
-    CaretMark mark;
-    long endLine = 0, endCol = 0;
-    pane.GetSelection(mark.line, mark.col, endLine, endCol);
-    auto module = pane.CodeModule();
-    mark.count = module->CountOfLines();
-    if (mark.line >= 1 && mark.line <= mark.count) mark.text = module->Lines(mark.line, 1);
-    return mark;
-}
-
-// Puts the caret back on its line, which lines put in above it have moved down.
-void caretFollow(host::CodePane& pane, const CaretMark& mark) {
-    auto module = pane.CodeModule();
-    long grown = module->CountOfLines() - mark.count;
-    for (long line = mark.line; line <= mark.line + grown && line <= module->CountOfLines(); ++line) {
-        if (module->Lines(line, 1) != mark.text) continue;
-        pane.SetSelection(line, mark.col, line, mark.col);
-        return;
-    }
-}
-
 }  // namespace
 
 void frmVar::BuildCodeLine(Str& rstrText, Str& rstrLine) {
@@ -86,14 +53,10 @@ void frmVar::BuildCodeLine(Str& rstrText, Str& rstrLine) {
 bool frmVar::PressOK(bool vfPaste) {
     Str name = basic::Trim(Controls(u"txtName").Text());
     Str module = basic::Trim(Controls(u"cboModule").Text());
-    source::NameCheckEnv check{*ctx_.VBInstance, ctx_.Platform(), ctx_.Keywords};
-    source::NameLookups lists = {lookupInPtr(ctx_.Scan.ProjectProcs),   lookupInPtr(ctx_.Scan.ProjectVars),
-                                 lookupInPtr(ctx_.Scan.ProjectConsts),  source::lookupIn(lists_.ModuleProcs),
-                                 source::lookupIn(lists_.ModuleVars),   source::lookupIn(lists_.ModuleConsts),
-                                 source::lookupIn(lists_.ProcVars),     source::lookupIn(lists_.ProcConsts)};
     // An argument may not take the name of another argument of its procedure.
-    if (VarLevel() == 2 && procDef_) lists.push_back(source::lookupIn(procDef_->ProcArguments->Items));
-    long answer = source::CheckNewNameIsOK(check, name, false, false, lists);
+    source::NameLookups extra;
+    if (VarLevel() == 2 && procDef_) extra.push_back(source::lookupIn(procDef_->ProcArguments->Items));
+    long answer = DeclarationNameCheck(ctx_, name, lists_, std::move(extra));
     if (!nameAnswerAccepted(*this, FocusedControl, answer)) return false;
 
     auto env = core::codeEnvOf(ctx_);
@@ -126,14 +89,14 @@ bool frmVar::PressOK(bool vfPaste) {
         source::InstanceAdd(env, pane, name);
     else if (!ParentForm && !pickedUpName_.empty() && selection)
         source::InstanceAdd(env, pane, name);
-    CaretMark mark = caretMark(*pane);
+    CaretMark mark = CaretMarkGet(*pane);
 
     if (level == 2) {
         ArgumentAdd(name);
-        caretFollow(*pane, mark);
+        CaretFollow(*pane, mark);
     } else {
         if (!source::VarConstCodeAdd(env, line, module, level == 0, true, name, blockLine, false)) return false;
-        caretFollow(*pane, mark);
+        CaretFollow(*pane, mark);
         if (blockLine == 0) recordsAndParent(name, module);
         ObjectStatementsAdd(name);
     }

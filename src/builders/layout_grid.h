@@ -27,6 +27,16 @@ inline Placement labelAt(const basic::Str& name, const basic::Str& caption, int 
     return dialogs::label(name, caption, {x, y + kLabelDrop, width, dialogs::kDluLabelHeight}, labelFor);
 }
 
+// The declaration builders' column: four buttons wide, the labels on the left, the boxes beside
+// them up to the right margin.
+namespace column {
+constexpr int kWidth = widthForButtons(4);
+constexpr int kRight = kWidth - dialogs::kDluMargin;
+constexpr int kLabelWidth = 52;
+constexpr int kBoxX = dialogs::kDluMargin + kLabelWidth + dialogs::kDluSpacing;
+constexpr int kBoxWidth = kRight - kBoxX;
+}  // namespace column
+
 // The buttons side by side from the left margin at `y`; gives the bottom of the row.
 inline int buttonRow(std::vector<Placement>& items, int y, const std::vector<basic::Str>& buttons) {
     int x = dialogs::kDluMargin;

@@ -52,6 +52,21 @@ Str CurrentWordGet(host::VBE& vbe) {
     }
 }
 
+Str SelectedTextGet(host::VBE& vbe) {
+    try {
+        auto pane = vbe.ActiveCodePane();
+        if (!pane) return {};
+        long startLine = 0, startCol = 0, endLine = 0, endCol = 0;
+        pane->GetSelection(startLine, startCol, endLine, endCol);
+        auto module = pane->CodeModule();
+        if (startLine < 1 || startLine > module->CountOfLines() || endLine != startLine) return {};
+        if (endCol > startCol) return Mid(module->Lines(startLine, 1), startCol, endCol - startCol);
+    } catch (const basic::VbError&) {
+        return {};
+    }
+    return CurrentWordGet(vbe);
+}
+
 Str KindNameGet(const Str& kind, const Str& line) {
     Str text = u" " + basic::Replace(Trim(line), u"\t", u" ") + u" ";
     long at = basic::InStr(text, u" " + Trim(kind) + u" ", Compare::Text);

@@ -14,6 +14,9 @@ inline constexpr char16_t kWordRemovedChars[] = u" `~!@#$%^&*()-+={}[]?<>,.\"";
 // round the caret, or the selected text when a part of one line is selected, less the characters
 // of kWordRemovedChars; "" when what remains has 32 characters or more, or without a pane.
 Str CurrentWordGet(host::VBE& vbe);
+// The text selected on one line of the active pane as it stands (blanks and quotes kept); the
+// word at the caret (CurrentWordGet) when nothing is selected.
+Str SelectedTextGet(host::VBE& vbe);
 // The same on a line of text with the selection given (columns 1-based, end exclusive).
 Str WordAtColumns(const Str& line, long startCol, long endCol);
 

@@ -3,6 +3,8 @@
 #include "basic/unicode.h"
 #include "builders/builder_layouts.h"
 #include "dialogs/layout_check.h"
+#include "builders/frm_const.h"
+#include "builders/frm_input_box.h"
 #include "var_fixture.h"
 
 namespace quillet::testing {
@@ -28,6 +30,16 @@ protected:
 TEST_F(DeclarationLayouts, VariableBuilderKeepsTheRules) {
     builders::frmVar form(*ctx);
     expectKeepsTheRules(form, builders::frmVarLayout());
+}
+
+TEST_F(DeclarationLayouts, ConstantBuilderKeepsTheRules) {
+    builders::frmConst form(*ctx);
+    expectKeepsTheRules(form, builders::frmConstLayout());
+}
+
+TEST_F(DeclarationLayouts, QuickInputBoxKeepsTheRules) {
+    builders::frmInputBox form(*ctx);
+    expectKeepsTheRules(form, builders::frmInputBoxLayout());
 }
 
 }  // namespace

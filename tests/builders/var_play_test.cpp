@@ -1,5 +1,5 @@
-// The Variable Builder through the tool: a script against a project on disk writes the module file
-// with the new declaration, CRLF and the hidden attribute lines kept; Cancel writes nothing.
+// The declaration builders through the tool: a script against a project on disk writes the module
+// file with the new declaration, CRLF and the hidden attribute lines kept; Cancel writes nothing.
 
 #include <gtest/gtest.h>
 
@@ -28,6 +28,15 @@ protected:
                                          "--at", "basMain:11:5", "--settings", (scripts / "settings").string()};
         return cli::runTool(args, out, err);
     }
+    // The module file with `line` behind the procedure's declaration at the caret.
+    std::string withDeclaration(const std::string& line) {
+        std::string declaration = "    Dim invoices As Scripting.Dictionary\r\n";
+        std::string expected = original;
+        size_t at = expected.find(declaration);
+        EXPECT_NE(at, std::string::npos);
+        if (at != std::string::npos) expected.insert(at + declaration.size(), line);
+        return expected;
+    }
 
     TempDir dir, scripts;
     std::string original;
@@ -37,18 +46,34 @@ protected:
 TEST_F(VariableBuilderPlay, TheDeclarationGoesBehindTheProceduresDeclarations) {
     ASSERT_EQ(play("open frmVar\nset txtName strTitle\nclick cmdOK\nexpect-form frmVar closed\n"), cli::kExitOk)
         << err.str();
-    std::string declaration = "    Dim invoices As Scripting.Dictionary\r\n";
-    std::string expected = original;
-    size_t at = expected.find(declaration);
-    ASSERT_NE(at, std::string::npos);
-    expected.insert(at + declaration.size(), "    Dim strTitle As String\r\n");
-    EXPECT_EQ(dir.read("basMain.bas"), expected);
+    EXPECT_EQ(dir.read("basMain.bas"), withDeclaration("    Dim strTitle As String\r\n"));
 }
 
 TEST_F(VariableBuilderPlay, CancelWritesNothing) {
     ASSERT_EQ(play("open frmVar\nset txtName strTitle\nclick cmdCancel\n"), cli::kExitOk) << err.str();
     EXPECT_EQ(dir.read("basMain.bas"), original);
     EXPECT_EQ(out.str(), "");
+}
+
+TEST_F(VariableBuilderPlay, TheConstantBuilderOpensAndWritesItsConstant) {
+    ASSERT_EQ(play("open frmConst\nexpect frmConst caption Constant Builder\nset txtName cstrTitle\n"
+                   "set txtValue Invoices\nclick cmdOK\nexpect-form frmConst closed\n"),
+              cli::kExitOk)
+        << err.str();
+    EXPECT_EQ(dir.read("basMain.bas"), withDeclaration("    Const cstrTitle As String = \"Invoices\"\r\n"));
+}
+
+TEST_F(VariableBuilderPlay, TheQuickInputBoxOpensAndWritesItsConstant) {
+    ASSERT_EQ(play("open frmInputBox Const Long\nexpect frmInputBox caption Constant (Long)\nset txtName clngMax\n"
+                   "set txtValue 10\nclick cmdOK\nexpect-form frmInputBox closed\n"),
+              cli::kExitOk)
+        << err.str();
+    EXPECT_EQ(dir.read("basMain.bas"), withDeclaration("    Const clngMax As Long = 10\r\n"));
+}
+
+TEST_F(VariableBuilderPlay, TheQuickInputBoxCancelledWritesNothing) {
+    ASSERT_EQ(play("open frmInputBox Dim String\nset txtName strTitle\nclick cmdCancel\n"), cli::kExitOk) << err.str();
+    EXPECT_EQ(dir.read("basMain.bas"), original);
 }
 
 }  // namespace

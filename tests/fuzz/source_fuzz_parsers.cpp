@@ -1,8 +1,8 @@
 // libFuzzer target for the source model's text parsers: the declaration parsers of variables and
 // constants, the argument parsers, the procedure signature parser, the statement splitter
 // LineDisjunction, SplitArguments, the declaration-lines joiner and the argument put into a
-// procedure's header. Any input must end in a result, never a crash, a hang or an out-of-bounds
-// read.
+// procedure's header, and a constant's value as a literal of its type. Any input must end in a
+// result, never a crash, a hang or an out-of-bounds read.
 //
 // Not part of the default build. To build and run it with clang, from the repository's root:
 //   clang++ -std=c++20 -g -O1 -fsanitize=fuzzer,address,undefined -I src tests/fuzz/source_fuzz_parsers.cpp \
@@ -17,6 +17,7 @@
 #include <string_view>
 
 #include "basic/unicode.h"
+#include "source/const_values.h"
 #include "source/declaration_scan.h"
 #include "source/declarations.h"
 #include "source/literals.h"
@@ -70,6 +71,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     for (long before = 0; before <= 3; ++before) SignatureArgumentInsert(text, u"x As Long", before, before % 2 == 0);
     WrapText(text);
     QuoteValue(text, u"Variant");
+    // A constant's value as typed into the Constant Builder.
+    for (long varType : {0L, 3L, 7L, 8L, 11L}) ConstValueFormat(text, varType, [](const Str& n) { return n.size() % 2 == 0; });
+    for (const char16_t* type : {u"Boolean", u"Byte", u"Currency", u"Date", u"Long", u"Single", u"String"})
+        ValueConvertsTo(text, type);
     WordAtColumns(text, static_cast<long>(size % 7), static_cast<long>(size % 13));
     return 0;
 }
