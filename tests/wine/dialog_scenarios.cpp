@@ -110,19 +110,36 @@ void connectForDialogs(Session& s) {
     settleAfterConnection();
 }
 
-WindowSurface builderSurface(Checks& c, Session& s, BoxAnswerer& boxes, dialogs::UiScriptHooks& hooks) {
-    WindowSurface surface;
+namespace {
+
+// Each builder opens as a user opens it: through its bar entry.
+void addBuilderOpeners(WindowSurface& surface, Checks& c, Session& s) {
     surface.addOpener(u"frmProcedure", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"Add P&rocedure..."}); });
     surface.addOpener(u"frmVar", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"&Add Variable..."}); });
-    // The Property Builder with a type: the entry of that type on the "&Property" pop-up.
-    surface.addOpener(u"frmProperty", [&c, &s](const std::vector<Str>& args) {
-        if (args.empty()) {
-            clickBar(c, s.vbe(), {u"&Add Property..."});
-            return;
-        }
+    surface.addOpener(u"frmConst", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"&Add Constant..."}); });
+    // The Property Builder with a type, and the input box of a kind and type: the entry of that
+    // type on the pop-up of the kind.
+    auto typedEntry = [&c, &s](const Str& popup, const Str& type) {
         clickBar(c, s.vbe(), {u"&Quillet"});  // the pop-up opening sets its entries
-        clickBar(c, s.vbe(), {u"&Quillet", u"&Property", args[0]});
+        clickBar(c, s.vbe(), {u"&Quillet", popup, type});
+    };
+    surface.addOpener(u"frmProperty", [&c, &s, typedEntry](const std::vector<Str>& args) {
+        if (args.empty()) clickBar(c, s.vbe(), {u"&Add Property..."});
+        else typedEntry(u"&Property", args[0]);
     });
+    surface.addOpener(u"frmInputBox", [&c, typedEntry](const std::vector<Str>& args) {
+        const Str kind = args.empty() ? Str() : args[0];
+        const Str popup = kind == u"Dim" ? u"&Variable" : kind == u"Const" ? u"&Constant" : Str();
+        c.check(!popup.empty() && args.size() == 2, "the input box is opened by a Dim or Const entry of a type");
+        if (!popup.empty() && args.size() == 2) typedEntry(popup, args[1]);
+    });
+}
+
+}  // namespace
+
+WindowSurface builderSurface(Checks& c, Session& s, BoxAnswerer& boxes, dialogs::UiScriptHooks& hooks) {
+    WindowSurface surface;
+    addBuilderOpeners(surface, c, s);
     hooks.answer = [&boxes](const Str& answer) { boxes.queue(std::wstring(answer.begin(), answer.end())); };
     hooks.moduleText = [&s](const Str& module) -> std::optional<Str> {
         if (!s.vbe().activeProject()->component(module)) return std::nullopt;
@@ -261,6 +278,7 @@ void faultsInTheBuildersOK(Checks& c, BoxAnswerer& boxes) {
 void runDialogScenarios(Checks& c, BoxAnswerer& boxes, const std::wstring& scriptsFolder) {
     playScriptFolder(c, boxes, {}, scriptsFolder);
     playScriptFolder(c, boxes, testing::variableScriptSetup(), scriptsFolder + L"\\variable");
+    playScriptFolder(c, boxes, testing::variableScriptSetup(), scriptsFolder + L"\\constant");
     playScriptFolder(c, boxes, testing::propertyScriptSetup(), scriptsFolder + L"\\property");
     // The scenarios and pictures that follow expect the builders' settings alone.
     writeSetup({});

@@ -15,8 +15,8 @@ namespace quillet::wine {
 // own, played on the real windows.
 void runDialogScenarios(Checks& c, BoxAnswerer& boxes, const std::wstring& scriptsFolder);
 
-// The Procedure and Argument Builders filled in as in the user guide, pictured as BMP files in
-// the folder ("procedure-builder.bmp", "argument-builder.bmp").
+// The builders filled in as in the user guide, pictured as BMP files in the folder
+// ("procedure-builder.bmp", "argument-builder.bmp", "variable-builder.bmp", ...).
 void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folder);
 
 // Opens and cancels the Procedure Builder on a project of that many modules and prints the times.
@@ -33,8 +33,9 @@ void settleAfterConnection();
 // OnConnection with the focus in the code window, then the first tick.
 void connectForDialogs(Session& s);
 
-// A surface whose "frmProcedure" is opened by the bar's "Add P&rocedure...", whose answers go to
-// the box answerer and whose modules are the session's.
+// A surface whose builders are opened by their bar entries ("Add P&rocedure...", "&Add Variable...",
+// a type's entry of the "&Constant" pop-up...), whose answers go to the box answerer and whose
+// modules are the session's.
 WindowSurface builderSurface(Checks& c, Session& s, BoxAnswerer& boxes, dialogs::UiScriptHooks& hooks);
 
 }  // namespace quillet::wine

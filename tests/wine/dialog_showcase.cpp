@@ -58,6 +58,13 @@ void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folde
     pump(2 * kFirstTickWait);
     dialogs::UiScriptHooks hooks;
     WindowSurface surface = builderSurface(c, s, boxes, hooks);
+    // Each builder filled in as a user would, pictured, then cancelled.
+    auto show = [&](const Str& script, const Str& form, const wchar_t* file) {
+        auto outcome = dialogs::playUiScript(script, surface, hooks);
+        c.check(outcome.passed(), narrow(form) + " is filled for its picture", narrow(outcome.describe()));
+        picture(c, folder, form, file);
+        dialogs::playUiScript(u"click cmdCancel\n", surface, hooks);
+    };
     auto outcome = dialogs::playUiScript(u"open frmProcedure\n"
                                          u"set txtName CustomerName\n"
                                          u"expect chkAddHourglass enabled true\n"
@@ -74,8 +81,28 @@ void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folde
     picture(c, folder, u"frmArgument", L"argument-builder.bmp");
     outcome = dialogs::playUiScript(u"click cmdOK\n", surface, hooks);
     c.check(outcome.passed(), "the argument is added for the picture", narrow(outcome.describe()));
-    picture(c, folder, u"frmProcedure", L"procedure-builder.bmp");
-    dialogs::playUiScript(u"click cmdCancel\n", surface, hooks);
+    show(u"", u"frmProcedure", L"procedure-builder.bmp");
+    show(u"open frmVar\n"
+         u"select cboDataType Currency\n"
+         u"select cboAccessibility Private\n"
+         u"set txtName mcurRate\n"
+         u"set txtDescription the rate of the invoice being printed\n",
+         u"frmVar", L"variable-builder.bmp");
+    show(u"open frmConst\n"
+         u"set txtName cstrReportTitle\n"
+         u"set txtValue Invoices of the month\n"
+         u"select cboAccessibility Private\n"
+         u"set txtDescription the title of every page\n",
+         u"frmConst", L"constant-builder.bmp");
+    show(u"open frmProperty\n"
+         u"select cboDataType Long\n"
+         u"set txtName Quantity\n"
+         u"set txtDescription how many of the item are ordered\n",
+         u"frmProperty", L"property-builder.bmp");
+    show(u"open frmInputBox Const Date\n"
+         u"set txtName cdtmFirstDay\n"
+         u"set txtValue 1/1/2026\n",
+         u"frmInputBox", L"input-box-constant.bmp");
     s.disconnect();
     s.release();
 }
