@@ -39,7 +39,7 @@ struct Printer {
         for (const LibraryEntry& entry : folder.Entries) {
             out << indent << u8(entry.Name);
             if (entry.Kind == LibraryEntryKind::Shortcut)
-                out << " -> " << u8(shownPath(settings, library, entry.FullName)) << (entry.Repaired ? " (repaired)" : "");
+                out << " -> " << u8(shownPath(settings, library, entry.FullName)) << (entry.Moved ? " (library moved: the Fragment Builder mends the link)" : "");
             out << "\n";
         }
         for (const LibraryEntry& entry : folder.Skipped)
@@ -62,8 +62,8 @@ struct Printer {
         if (entry.Kind != LibraryEntryKind::Fragment) {
             json.key(u"target");
             json.value(entry.FullName.empty() ? Str() : shownPath(settings, library, entry.FullName));
-            json.key(u"repaired");
-            json.value(entry.Repaired);
+            json.key(u"moved");
+            json.value(entry.Moved);
         }
         if (!entry.Problem.empty()) {
             json.key(u"problem");
@@ -137,9 +137,10 @@ std::string fragmentsHelpText() {
            "\n"
            "Lists the fragment library as the Fragment Builder shows it: the folders below the\n"
            "fragments folder, each with its fragments (.bas) and shortcuts (.lnk) in order of\n"
-           "name. A shortcut shows the fragment it points to; a shortcut whose library has\n"
-           "moved is repaired and saved; a shortcut whose fragment is missing, or that cannot\n"
-           "be read, is marked broken and is not an entry.\n"
+           "name. A shortcut shows the fragment it points to, also when its library has moved\n"
+           "(the Fragment Builder mends such a link when it opens; this listing writes\n"
+           "nothing); a shortcut whose fragment is missing, or that cannot be read, is marked\n"
+           "broken and is not an entry.\n"
            "\n"
            "With --project, a folder that qltrefra.ini ties to a library the project does not\n"
            "refer to is hidden with all below it; without a project every folder is shown.\n"
@@ -169,7 +170,8 @@ int fragmentsCommand(const ToolOptions& options, std::ostream& out, std::ostream
         err << "quillet: " << u8(source) << ": " << u8(error.Description()) << "\n";
     };
     prepareSettings(settings, options, err);
-    FragmentLibrary library = fragments::OpenFragmentLibrary(settings, references);
+    // A listing reads only: moved shortcuts are shown at their new place, not mended.
+    FragmentLibrary library = fragments::OpenFragmentLibrary(settings, references, false);
     Printer printer{settings, library};
     if (options.json)
         printJson(printer, references, out);

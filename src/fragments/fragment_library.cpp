@@ -38,10 +38,10 @@ struct TreeBuilder {
         entry.FullName = file.FullName();
         if (!sameText(file.Extension(), u"lnk")) return entry;
         entry.ShortcutFile = file.FullName();
-        ShortcutTarget target = repair ? ReadAndRepairShortcut(settings.Files, file.FullName(), library.FragmentsFolder)
-                                       : ReadShortcut(settings.Files, file.FullName());
+        ShortcutTarget target = ReadAndRepairShortcut(settings.Files, file.FullName(), library.FragmentsFolder, repair);
         entry.FullName = target.Target;
         entry.Repaired = target.Repaired;
+        entry.Moved = target.Moved;
         entry.Problem = target.Error;
         if (!target.Ok) entry.Kind = LibraryEntryKind::BrokenShortcut;
         else if (!settings.Files.FileExists(target.Target)) {

@@ -36,6 +36,9 @@ struct LibraryEntry {
     Str Problem;
     // The shortcut's target was repaired (the library had moved) and the link saved.
     bool Repaired = false;
+    // The library had moved and the target was found at its new place, the link left as it is
+    // (an opening that does not repair).
+    bool Moved = false;
 };
 
 struct LibraryFolder {

@@ -89,11 +89,17 @@ Str MovedTargetCandidate(const Str& target, const Str& fragmentsFolder) {
     return folder + basic::Mid(target, at + 11);
 }
 
-ShortcutTarget ReadAndRepairShortcut(const settings::FileSystem& files, const Str& linkFile, const Str& fragmentsFolder) {
+ShortcutTarget ReadAndRepairShortcut(const settings::FileSystem& files, const Str& linkFile, const Str& fragmentsFolder,
+                                     bool save) {
     ShortcutTarget result = ReadShortcut(files, linkFile);
     if (!result.Ok) return result;
     Str candidate = MovedTargetCandidate(result.Target, fragmentsFolder);
     if (candidate.empty() || !files.FileExists(candidate)) return result;
+    if (!save) {
+        result.Target = candidate;
+        result.Moved = true;
+        return result;
+    }
     std::string bytes;
     ShellLink old;
     try {

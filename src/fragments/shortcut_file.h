@@ -21,14 +21,19 @@ struct ShortcutTarget {
     // folder; after a repair, the repaired one.
     Str Target;
     bool Repaired = false;
+    // The target was found at its place in the moved library but the link was left as it is
+    // (a reading that must not write).
+    bool Moved = false;
     // Why the link could not be read, or why a repaired link could not be saved.
     Str Error;
 };
 
 // Reads the link; never raises.
 ShortcutTarget ReadShortcut(const settings::FileSystem& files, const Str& linkFile);
-// Reads the link and repairs it against fragmentsFolder (a system path without final "\").
-ShortcutTarget ReadAndRepairShortcut(const settings::FileSystem& files, const Str& linkFile, const Str& fragmentsFolder);
+// Reads the link and repairs it against fragmentsFolder (a system path without final "\"): the
+// link is saved with its new target, or, when save is false, only the target is taken (Moved).
+ShortcutTarget ReadAndRepairShortcut(const settings::FileSystem& files, const Str& linkFile, const Str& fragmentsFolder,
+                                     bool save = true);
 // The place a target that lies outside fragmentsFolder would have inside it; empty when the target
 // lies inside already or holds no "\Fragments\".
 Str MovedTargetCandidate(const Str& target, const Str& fragmentsFolder);

@@ -74,6 +74,23 @@ TEST_F(CliFragments, ShortcutsShowTheirTargetAndBrokenOnesAreMarked) {
         << out.str();
 }
 
+// A listing writes nothing: a shortcut made before its library moved shows its fragment at the
+// new place and keeps its bytes (the Fragment Builder mends it).
+TEST_F(CliFragments, AShortcutOfAMovedLibraryIsShownAtItsNewPlaceAndLeftAsItIs) {
+    write("quillet/Fragments/Loops/For Each.bas", "For Each x In y\r\nNext\r\n");
+    const std::string bytes = fragments::WriteShellLink(fragments::ShellLinkTo(
+        u"D:\\Users\\old\\quillet\\Fragments\\Loops\\For Each.bas", systemPath("quillet/Fragments/Mine")));
+    write("quillet/Fragments/Mine/Each.lnk", bytes);
+    ASSERT_EQ(run({"fragments"}), kExitOk) << err.str();
+    EXPECT_NE(out.str().find("Mine\\\n  Each -> Loops\\For Each.bas (library moved: the Fragment Builder mends the link)\n"),
+              std::string::npos)
+        << out.str();
+    std::ifstream in(dir.path() / "quillet/Fragments/Mine/Each.lnk", std::ios::binary);
+    std::ostringstream after;
+    after << in.rdbuf();
+    EXPECT_EQ(after.str(), bytes);
+}
+
 TEST_F(CliFragments, AFolderTiedToALibraryShowsOnlyWhenTheProjectRefersToIt) {
     write("quillet/Fragments/Scripting/Dictionary.bas", "Dim d As New Dictionary\r\n");
     write("quillet/Fragments/Access/Recordset.bas", "Dim rs As Recordset\r\n");

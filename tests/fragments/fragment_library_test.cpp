@@ -152,12 +152,17 @@ TEST_F(FragmentLibraryTest, ALibraryMovedToAnotherDiskHasItsShortcutsRepairedOnO
               fragments + u"\\Loops\\For.bas");
 }
 
-TEST_F(FragmentLibraryTest, WithoutRepairAMovedShortcutIsSkippedAndItsFileLeftAlone) {
+TEST_F(FragmentLibraryTest, WithoutRepairAMovedShortcutShowsItsNewPlaceAndItsFileIsLeftAlone) {
     fragment("Loops/For.bas");
     shortcut("Mine/For.lnk", u"E:\\Old\\Fragments\\Loops\\For.bas");
     std::string before = readBytes("root/quillet/Fragments/Mine/For.lnk");
     FragmentLibrary library = OpenFragmentLibrary(settings, std::nullopt, false);
-    EXPECT_EQ(library.Root.Folders[1].Skipped.size(), 1u);
+    const LibraryFolder& mine = library.Root.Folders[1];
+    EXPECT_TRUE(mine.Skipped.empty());
+    ASSERT_EQ(mine.Entries.size(), 1u);
+    EXPECT_EQ(mine.Entries[0].Kind, LibraryEntryKind::Shortcut);
+    EXPECT_TRUE(mine.Entries[0].Moved);
+    EXPECT_FALSE(mine.Entries[0].Repaired);
     EXPECT_EQ(readBytes("root/quillet/Fragments/Mine/For.lnk"), before);
 }
 

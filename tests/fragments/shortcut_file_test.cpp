@@ -70,6 +70,23 @@ TEST_F(ShortcutFile, ALibraryMovedToAnotherDiskHasItsShortcutRepaired) {
     EXPECT_EQ(again.Target, fragments + u"\\Loops\\For Each.bas");
 }
 
+TEST_F(ShortcutFile, AReadingThatMustNotWriteFindsTheMovedTargetAndLeavesTheLink) {
+    writeBytes("lib/Fragments/Loops/For Each.bas", "For Each");
+    std::filesystem::create_directories(machine("lib/Fragments/Mine"));
+    const Str link = fragments + u"\\Mine\\For Each.lnk";
+    ASSERT_EQ(SaveShortcut(settings.Files, link, u"D:\\Users\\old\\quillet\\Fragments\\Loops\\For Each.bas"), 0);
+    std::string before;
+    ASSERT_EQ(settings.Files.ReadAll(link, before), 0);
+    ShortcutTarget read = ReadAndRepairShortcut(settings.Files, link, fragments, false);
+    EXPECT_TRUE(read.Ok);
+    EXPECT_TRUE(read.Moved);
+    EXPECT_FALSE(read.Repaired);
+    EXPECT_EQ(read.Target, fragments + u"\\Loops\\For Each.bas");
+    std::string after;
+    ASSERT_EQ(settings.Files.ReadAll(link, after), 0);
+    EXPECT_EQ(after, before);
+}
+
 TEST_F(ShortcutFile, RepairKeepsTheLinksNameAndArguments) {
     writeBytes("lib/Fragments/a.bas", "a");
     ShellLink old = ShellLinkTo(u"C:\\x\\Fragments\\a.bas", u"C:\\x\\Fragments");
