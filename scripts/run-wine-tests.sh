@@ -70,6 +70,10 @@ runArch() {
     # The harness also plays the builders' UI scripts on the real dialogs and takes their pictures
     # (the caption buttons are drawn from Marlett, which the prefix must hold).
     pictures=$ROOT/build-wine/pictures$arch
+    # The shipped files beside the DLL, as the installer puts them: a first start installs them
+    # into the user's settings folder (templates, error handlers, fragments).
+    rm -rf "$dir/data"
+    cp -r "$ROOT/data" "$dir/data"
     rm -rf "$pictures"
     mkdir -p "$pictures"
     xvfb-run -a sh -c 'wineboot -i >/dev/null 2>&1

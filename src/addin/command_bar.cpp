@@ -105,7 +105,9 @@ void ToolBarSave(Context& ctx, const host::CommandBarsPtr& bars, const Str& suff
     ignoringErrors([&] { saveNumber(ctx, u"ToolbarLeft" + suffix, bar->Left()); });
     ignoringErrors([&] { saveNumber(ctx, u"ToolbarTop" + suffix, bar->Top()); });
     ignoringErrors([&] { bar->Visible(false); });
-    bar->Delete();
+    // An editor busy with something else may refuse a call once: a bar left behind would stay
+    // in the editor's bars for good, so its removal is tried a second time.
+    if (!ignoringErrors([&] { bar->Delete(); })) bar->Delete();
     ignoringErrors([&] { bars->Item(u"CodeExplorerPopUp")->Delete(); });
 }
 

@@ -102,5 +102,24 @@ TEST_F(CommandBarFaults, NoFailureWhileConnectingEscapes) {
     }
 }
 
+// A bar whose removal the editor refuses once is removed at the second try: left behind it would
+// stay in the editor's bars for good.
+TEST_F(CommandBarFaults, ABarWhoseRemovalIsRefusedOnceIsStillRemoved) {
+    start();
+    build();
+    ASSERT_TRUE(memoryVbe->commandBars()->bar(u"Quillet"));
+    const long before = plan->calls();
+    addin::ToolBarSave(*ctx, ctx->VBInstance->CommandBars(), u"");
+    long deleteCall = 0;
+    for (size_t i = static_cast<size_t>(before); i < plan->log().size(); ++i)
+        if (plan->log()[i] == "CommandBar.Delete" && deleteCall == 0) deleteCall = static_cast<long>(i) + 1;
+    ASSERT_GT(deleteCall, 0);
+    start();
+    build();
+    plan->failAt(deleteCall);
+    EXPECT_NO_THROW(addin::ToolBarSave(*ctx, ctx->VBInstance->CommandBars(), u""));
+    EXPECT_FALSE(memoryVbe->commandBars()->bar(u"Quillet"));
+}
+
 }  // namespace
 }  // namespace quillet::testing

@@ -14,6 +14,7 @@ namespace {
 class ClassScripts : public PropertyFixture, public ::testing::WithParamInterface<std::string> {
 protected:
     ClassScripts() {
+        applySetup(classScriptSetup());
         collectionClassReady();
     }
 };

@@ -34,6 +34,9 @@ inline std::vector<std::pair<long, basic::Variant>> builderSettings() {
         values.emplace_back(item, false);
     values.emplace_back(iiModuleNameConstant, basic::Str(u"cstrModule"));
     values.emplace_back(iiProcedureNameConstant, basic::Str(u"cstrProcedure"));
+    // No error handler chosen, and no module header for a new module.
+    values.emplace_back(iiAddErrorHandlingProcedure, basic::Str());
+    values.emplace_back(iiModuleHeaderFile, basic::Str());
     return values;
 }
 
@@ -74,6 +77,16 @@ inline ScriptSetup propertyScriptSetup() {
              {u"Boolean", u"bln", u"", u"", u""},
              {u"Collection", u"col", u"", u"", u""}},
             {}};
+}
+
+// The Class Builder: the Property Builder's setup, and the Method Builder's options off.
+inline ScriptSetup classScriptSetup() {
+    using namespace settings;
+    ScriptSetup setup = propertyScriptSetup();
+    for (long item : {iiAddHeaderMethod, iiAddMethodConstant, iiAddModuleConstantMethod, iiAddHourglassMethod})
+        setup.settings.emplace_back(item, false);
+    setup.settings.emplace_back(iiAddErrorHandlingMethod, basic::Str());
+    return setup;
 }
 
 // The caret of a script's comment "# at MODULE:LINE[:COL]" (column 1 when left out); false when

@@ -12,6 +12,7 @@
 #include "basic/unicode.h"
 #include "dialog_scenarios.h"
 #include "dialogs/ui_player.h"
+#include "hosts/files/file_project.h"
 #include "session.h"
 #include "window_surface.h"
 
@@ -94,6 +95,8 @@ void closeDialogs() {
 
 std::shared_ptr<MemoryVBE> editorForBuilders() {
     auto vbe = MemoryVBE::create();
+    // VBComponents.Import and Export over module files, as the editor's own.
+    hosts::files::installFileImportExport(*vbe);
     auto project = vbe->addProject(u"VBAProject", u"C:\\Work\\Book1.xlsm", u"Excel");
     auto module = project->addComponent(u"basMain", host::vbext_ct_StdModule,
                                         {u"Option Explicit", u"", u"Public Sub Existing()", u"End Sub"});
@@ -117,6 +120,7 @@ void addBuilderOpeners(WindowSurface& surface, Checks& c, Session& s) {
     surface.addOpener(u"frmProcedure", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"Add P&rocedure..."}); });
     surface.addOpener(u"frmVar", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"&Add Variable..."}); });
     surface.addOpener(u"frmConst", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"&Add Constant..."}); });
+    surface.addOpener(u"frmClass", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"Add Cl&ass..."}); });
     // The Property Builder with a type, and the input box of a kind and type: the entry of that
     // type on the pop-up of the kind.
     auto typedEntry = [&c, &s](const Str& popup, const Str& type) {
@@ -280,6 +284,7 @@ void runDialogScenarios(Checks& c, BoxAnswerer& boxes, const std::wstring& scrip
     playScriptFolder(c, boxes, testing::variableScriptSetup(), scriptsFolder + L"\\variable");
     playScriptFolder(c, boxes, testing::variableScriptSetup(), scriptsFolder + L"\\constant");
     playScriptFolder(c, boxes, testing::propertyScriptSetup(), scriptsFolder + L"\\property");
+    playScriptFolder(c, boxes, testing::classScriptSetup(), scriptsFolder + L"\\class");
     // The scenarios and pictures that follow expect the builders' settings alone.
     writeSetup({});
     refusedNameTakesFocus(c, boxes);

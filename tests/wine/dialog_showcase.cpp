@@ -59,12 +59,15 @@ void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folde
     dialogs::UiScriptHooks hooks;
     WindowSurface surface = builderSurface(c, s, boxes, hooks);
     // Each builder filled in as a user would, pictured, then cancelled.
-    auto show = [&](const Str& script, const Str& form, const wchar_t* file) {
+    auto show = [&](const Str& script, const Str& form, const wchar_t* file, const Str& close = u"click cmdCancel\n") {
         auto outcome = dialogs::playUiScript(script, surface, hooks);
         c.check(outcome.passed(), narrow(form) + " is filled for its picture", narrow(outcome.describe()));
         picture(c, folder, form, file);
-        dialogs::playUiScript(u"click cmdCancel\n", surface, hooks);
+        outcome = dialogs::playUiScript(close + u"expect-form " + form + u" closed\n", surface, hooks);
+        c.check(outcome.passed(), narrow(form) + " closes after its picture", narrow(outcome.describe()));
     };
+    // The Class Builder asks before it throws away what was entered.
+    const Str discardClass = u"answer yes\nclick cmdCancel\n";
     auto outcome = dialogs::playUiScript(u"open frmProcedure\n"
                                          u"set txtName CustomerName\n"
                                          u"expect chkAddHourglass enabled true\n"
@@ -99,6 +102,22 @@ void takeDialogPictures(Checks& c, BoxAnswerer& boxes, const std::wstring& folde
          u"set txtName Quantity\n"
          u"set txtDescription how many of the item are ordered\n",
          u"frmProperty", L"property-builder.bmp");
+    show(u"open frmClass\n"
+         u"set txtClassName clsInvoice\n"
+         u"check chkMakeColClass 1\n",
+         u"frmClass", L"class-builder.bmp", discardClass);
+    show(u"open frmClass\n"
+         u"set txtClassName clsInvoice\n"
+         u"select TabMain Properties\n"
+         u"click cmdNewProp\n"
+         u"set txtName Number\n"
+         u"select cboDataType Long\n"
+         u"click cmdOK\n"
+         u"click cmdNewProp\n"
+         u"set txtName Customer\n"
+         u"select cboDataType String\n"
+         u"click cmdOK\n",
+         u"frmClass", L"class-builder-properties.bmp", discardClass);
     show(u"open frmInputBox Const Date\n"
          u"set txtName cdtmFirstDay\n"
          u"set txtValue 1/1/2026\n",
