@@ -4,6 +4,7 @@
 #include "builders/builder_layouts.h"
 #include "dialogs/layout_check.h"
 #include "builders/frm_const.h"
+#include "builders/frm_enum_or_type.h"
 #include "builders/frm_input_box.h"
 #include "var_fixture.h"
 
@@ -35,6 +36,11 @@ TEST_F(DeclarationLayouts, VariableBuilderKeepsTheRules) {
 TEST_F(DeclarationLayouts, ConstantBuilderKeepsTheRules) {
     builders::frmConst form(*ctx);
     expectKeepsTheRules(form, builders::frmConstLayout());
+}
+
+TEST_F(DeclarationLayouts, EnumAndTypeBuilderKeepsTheRules) {
+    builders::frmEnumOrType form(*ctx);
+    expectKeepsTheRules(form, builders::frmEnumOrTypeLayout());
 }
 
 TEST_F(DeclarationLayouts, QuickInputBoxKeepsTheRules) {
