@@ -13,6 +13,7 @@ dialogs::FormLayout frmVarLayout();
 dialogs::FormLayout frmConstLayout();
 dialogs::FormLayout frmInputBoxLayout();
 dialogs::FormLayout frmEnumOrTypeLayout();
+dialogs::FormLayout frmItemAddLayout();
 
 // Adds every builder's layout to the catalogue, by form name.
 void AddBuilderLayouts(dialogs::LayoutCatalog& catalog);

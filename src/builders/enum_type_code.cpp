@@ -3,6 +3,7 @@
 #include "core/command_env.h"
 #include "core/err_handler.h"
 #include "source/code_placing.h"
+#include "source/decl_blocks.h"
 #include "source/declaration_scan.h"
 #include "source/scan_state.h"
 
@@ -43,7 +44,109 @@ void blockRecord(core::Context& ctx, const Str& name, bool vfEnum, const std::ve
                     isPrivate, project);
 }
 
+constexpr char16_t kItemExists[] = u"Item exist.";
+
+Str firstWord(const Str& text) {
+    Str trimmed = basic::Trim(text);
+    return trimmed.substr(0, trimmed.find_first_of(u" =':"));
+}
+
+// Where the block of that name lives: its module and, for the project's Enums, the record that
+// takes the new member.
+struct BlockFound {
+    Str module;
+    source::clsEnumPtr projectEnum;
+    source::clsEnumPtr anyEnum;
+};
+
+template <class C>
+auto findRecord(const C& collection, const Str& name) -> std::remove_reference_t<decltype(*collection.Find(name))> {
+    auto* found = collection.Find(name);
+    return found ? *found : nullptr;
+}
+
+bool blockRecordFind(core::Context& ctx, const DeclarationLists& lists, const Str& name, bool vfEnum, BlockFound& block) {
+    auto pane = ctx.VBInstance->ActiveCodePane();
+    Str active = pane ? pane->CodeModule()->Parent()->Name() : Str();
+    if (vfEnum) {
+        if (auto record = findRecord(lists.ModuleEnums, name)) {
+            block = {record->Module.empty() ? active : record->Module, nullptr, record};
+            return true;
+        }
+        if (!ctx.Scan.ProjectEnums) return false;
+        auto record = findRecord(*ctx.Scan.ProjectEnums, name);
+        if (record) block = {record->Module, record, record};
+        return record != nullptr;
+    }
+    if (auto record = findRecord(lists.ModuleTypes, name)) {
+        block = {record->Module.empty() ? active : record->Module, nullptr, nullptr};
+        return true;
+    }
+    if (!ctx.Scan.ProjectTypes) return false;
+    auto record = findRecord(*ctx.Scan.ProjectTypes, name);
+    if (record) block = {record->Module, nullptr, nullptr};
+    return record != nullptr;
+}
+
+bool blockHasItem(host::CodeModule& module, long header, long endLine, const Str& item) {
+    for (long n = header + 1; n < endLine; ++n)
+        if (basic::StrComp(firstWord(module.Lines(n, 1)), item, basic::Compare::Text) == 0) return true;
+    return false;
+}
+
+// The caret's blank line inside that very block, 0 when the caret is elsewhere.
+long caretLineInBlock(core::Context& ctx, host::CodeModule& module, long header, long endLine, bool vfEnum) {
+    auto pane = ctx.VBInstance->ActiveCodePane();
+    if (!pane || pane->CodeModule()->Parent()->Name() != module.Parent()->Name()) return 0;
+    if (source::CaretBlockLine(*ctx.VBInstance, vfEnum) == 0) return 0;
+    long line = 0, col = 0, endL = 0, endC = 0;
+    pane->GetSelection(line, col, endL, endC);
+    return line > header && line < endLine && basic::Trim(module.Lines(line, 1)).empty() ? line : 0;
+}
+
+void memberRecord(core::Context& ctx, const source::clsEnumPtr& record, const Str& item) {
+    auto member = std::make_shared<source::clsConstant>();
+    member->Name = item;
+    member->EnumName(record->Name);
+    member->Project = record->Project;
+    member->Type_ = u"Long";
+    source::addFirstWins(record->Items, member, item + u"." + record->Name);
+    if (!ctx.Scan.ProjectConsts) ctx.Scan.ProjectConsts = source::newCollection<source::clsConstant>();
+    source::addFirstWins(*ctx.Scan.ProjectConsts, member, item);
+}
+
 }  // namespace
+
+bool EnumItemAdd(core::Context& ctx, const DeclarationLists& lists, const Str& vstrText, const Str& vstrListName,
+                 bool vfEnum) {
+    bool added = false;
+    core::guarded(ctx, u"basQuillet.EnumItemAdd", [&] {
+        BlockFound block;
+        if (!blockRecordFind(ctx, lists, basic::Trim(vstrListName), vfEnum, block)) return;
+        auto component = source::componentNamed(*ctx.VBInstance, block.module);
+        if (!component) return;
+        auto module = component->CodeModule();
+        long header = 0, endLine = 0;
+        if (!source::DeclarationBlockFind(*module, basic::Trim(vstrListName), vfEnum, header, endLine)) return;
+        Str item = firstWord(vstrText);
+        bool known = false;
+        if (block.anyEnum)
+            for (const auto& member : block.anyEnum->Items)
+                known = known || basic::StrComp(member->Name, item, basic::Compare::Text) == 0;
+        if (known || blockHasItem(*module, header, endLine, item)) {
+            ctx.Platform().MsgBox(kItemExists, 48, source::kProductTitle);
+            return;
+        }
+        Str line = core::codeEnvOf(ctx).tabSpaces() + vstrText;
+        if (long at = caretLineInBlock(ctx, *module, header, endLine, vfEnum))
+            module->ReplaceLine(at, line);
+        else
+            module->InsertLines(endLine, line);
+        if (block.projectEnum) memberRecord(ctx, block.projectEnum, item);
+        added = true;
+    });
+    return added;
+}
 
 Str WithPrefix(const Str& text, const Str& prefix) {
     if (prefix.empty()) return text;

@@ -2,6 +2,7 @@
 // The text of a whole Enum or Type block, its placing in a module's declarations and its record
 // in the project's lists; the one line added to a block that exists.
 
+#include "builders/declaration_context.h"
 #include "core/context.h"
 
 namespace quillet::builders {
@@ -23,5 +24,12 @@ Str TypeEnumText(const Str& name, bool vfEnum, const Str& items, const Str& star
 // it in the project's enums or types. True when written.
 bool TypeEnumCodeInsert(core::Context& ctx, const Str& name, bool vfEnum, const Str& items, const Str& module,
                         const Str& startValue, const Str& prefix, const Str& accessWord);
+
+// EnumItemAdd(vstrText, vstrListName, vfEnum): one more line (indented `vstrText`) in the block of
+// that name, found in the module's lists, then in the project's. Inside that very block at the
+// caret it takes the caret's blank line, else it goes in before the "End" line. A name the block
+// has already is refused ("Item exist."). True when written.
+bool EnumItemAdd(core::Context& ctx, const DeclarationLists& lists, const Str& vstrText, const Str& vstrListName,
+                 bool vfEnum);
 
 }  // namespace quillet::builders
