@@ -51,41 +51,42 @@ Str firstWord(const Str& text) {
     return trimmed.substr(0, trimmed.find_first_of(u" =':"));
 }
 
-// Where the block of that name lives: its module and, for the project's Enums, the record that
-// takes the new member.
+// Where the block of that name lives: its module, the Enum's record and, for the project's Enums,
+// the record that takes the new member.
 struct BlockFound {
     Str module;
     source::clsEnumPtr projectEnum;
     source::clsEnumPtr anyEnum;
 };
 
-template <class C>
-auto findRecord(const C& collection, const Str& name) -> std::remove_reference_t<decltype(*collection.Find(name))> {
-    auto* found = collection.Find(name);
-    return found ? *found : nullptr;
+// The record in the module's list (its module the active one when the scan left it empty), else
+// in the project's; `onProjects` gets the project's record.
+template <class R, class OnProject>
+bool recordFind(const basic::Collection<std::shared_ptr<R>>& moduleList,
+                const source::CollectionPtr<R>& projectList, const Str& name, const Str& active,
+                std::shared_ptr<R>& record, Str& module, OnProject onProject) {
+    if (auto* found = moduleList.Find(name)) {
+        record = *found;
+        module = record->Module.empty() ? active : record->Module;
+        return true;
+    }
+    auto* found = projectList ? projectList->Find(name) : nullptr;
+    if (!found) return false;
+    record = *found;
+    module = record->Module;
+    onProject(record);
+    return true;
 }
 
 bool blockRecordFind(core::Context& ctx, const DeclarationLists& lists, const Str& name, bool vfEnum, BlockFound& block) {
     auto pane = ctx.VBInstance->ActiveCodePane();
     Str active = pane ? pane->CodeModule()->Parent()->Name() : Str();
-    if (vfEnum) {
-        if (auto record = findRecord(lists.ModuleEnums, name)) {
-            block = {record->Module.empty() ? active : record->Module, nullptr, record};
-            return true;
-        }
-        if (!ctx.Scan.ProjectEnums) return false;
-        auto record = findRecord(*ctx.Scan.ProjectEnums, name);
-        if (record) block = {record->Module, record, record};
-        return record != nullptr;
-    }
-    if (auto record = findRecord(lists.ModuleTypes, name)) {
-        block = {record->Module.empty() ? active : record->Module, nullptr, nullptr};
-        return true;
-    }
-    if (!ctx.Scan.ProjectTypes) return false;
-    auto record = findRecord(*ctx.Scan.ProjectTypes, name);
-    if (record) block = {record->Module, nullptr, nullptr};
-    return record != nullptr;
+    if (vfEnum)
+        return recordFind(lists.ModuleEnums, ctx.Scan.ProjectEnums, name, active, block.anyEnum, block.module,
+                          [&block](const source::clsEnumPtr& record) { block.projectEnum = record; });
+    source::clsTypePtr type;
+    return recordFind(lists.ModuleTypes, ctx.Scan.ProjectTypes, name, active, type, block.module,
+                      [](const source::clsTypePtr&) {});
 }
 
 bool blockHasItem(host::CodeModule& module, long header, long endLine, const Str& item) {
@@ -146,6 +147,11 @@ bool EnumItemAdd(core::Context& ctx, const DeclarationLists& lists, const Str& v
         added = true;
     });
     return added;
+}
+
+long BlockKindOf(const std::vector<Str>& args) {
+    return !args.empty() && basic::StrComp(args[0], u"Type", basic::Compare::Text) == 0 ? source::KindType
+                                                                                         : source::KindEnum;
 }
 
 Str WithPrefix(const Str& text, const Str& prefix) {

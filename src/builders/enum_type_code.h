@@ -9,6 +9,9 @@ namespace quillet::builders {
 
 using basic::Str;
 
+// The kind a builder of blocks opens for: 10004 when the first argument is "Type", else 10003.
+long BlockKindOf(const std::vector<Str>& args);
+
 // The item (or name) as written: unchanged when the prefix is empty or the text already begins
 // with it (any case), else prefix + text.
 Str WithPrefix(const Str& text, const Str& prefix);

@@ -172,11 +172,9 @@ void frmEnumOrType::typeListHide() {
 void OpenEnumOrTypeBuilder(core::Context& ctx, const std::vector<Str>& args) {
     core::guarded(ctx, u"frmEnumOrType.Open", [&] {
         core::ProjectRefresh(ctx);
-        long kind = !args.empty() && basic::StrComp(args[0], u"Type", basic::Compare::Text) == 0 ? source::KindType
-                                                                                                 : source::KindEnum;
         Str name = args.size() > 1 ? args[1] : Str();
         auto& form = ctx.Forms->Adopt(std::make_unique<frmEnumOrType>(ctx));
-        form.Init(kind, name);
+        form.Init(BlockKindOf(args), name);
         form.Show(ctx.ShowMode);
     });
 }

@@ -130,10 +130,8 @@ bool frmItemAdd::PressOK(bool vfNext) {
 void OpenItemAdd(core::Context& ctx, const std::vector<Str>& args) {
     core::guarded(ctx, u"frmItemAdd.Open", [&] {
         core::ProjectRefresh(ctx);
-        long kind = !args.empty() && basic::StrComp(args[0], u"Type", basic::Compare::Text) == 0 ? source::KindType
-                                                                                                 : source::KindEnum;
         auto& form = ctx.Forms->Adopt(std::make_unique<frmItemAdd>(ctx));
-        form.Init(kind);
+        form.Init(BlockKindOf(args));
         form.Show(ctx.ShowMode);
     });
 }
