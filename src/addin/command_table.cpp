@@ -246,7 +246,7 @@ void addDeclarations(Rows& t) {
     using namespace popup;
     addTypes(t, Variable, u"mnuhDim", u"Dim", std::size(kTypes));
     t.push_back(button(145, Variable).quick(u"mnuhType", u"Type"));
-    t.push_back(button(146, Variable));  // mnuhTypeItem: no handler, a click does nothing
+    t.push_back(button(146, Variable).quick(u"mnuhTypeItem", u"Type", u"Item"));
     t.push_back(button(103, Variable).group().face().opens(u"mnuhDimAdd", u"frmVar"));
     addTypes(t, Constant, u"mnuhConst", u"Const", kConstantTypes);
     t.push_back(button(170, Constant).quick(u"mnuhFilename", u"Filename"));

@@ -55,6 +55,15 @@ void openBuilder(Context& ctx, const Str& formName, const Str& type) {
 
 void propertyBuilder(Context& ctx, const Str&, const Str& type) { openBuilder(ctx, u"frmProperty", type); }
 
+// A new Enum or Type block, named after the word at the caret; "Item" adds to a block that exists.
+void enumOrType(Context& ctx, const Str& command, const Str& type) {
+    if (type == u"Item") {
+        if (ctx.Forms->IsRegistered(u"frmItemAdd")) ctx.Forms->Open(u"frmItemAdd", {command});
+        return;
+    }
+    ctx.Forms->Open(u"frmEnumOrType", {command, ctx.Quick.CurrentWord});
+}
+
 // The quick input box of a declaration: the command word says variable or constant.
 void inputBox(Context& ctx, const Str& command, const Str& type) { ctx.Forms->Open(u"frmInputBox", {command, type}); }
 
@@ -63,8 +72,8 @@ const std::vector<Route>& routes() {
         {u"Dim", inputBox},
         {u"Const", inputBox},
         {u"Property", propertyBuilder},
-        {u"Enum", notAvailableYet},
-        {u"Type", notAvailableYet},
+        {u"Enum", enumOrType},
+        {u"Type", enumOrType},
         {u"GoTo", notAvailableYet},
         {u"On Error GoTo", notAvailableYet},
         {u"Resume ", notAvailableYet},

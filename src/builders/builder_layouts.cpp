@@ -10,6 +10,8 @@ void AddBuilderLayouts(dialogs::LayoutCatalog& catalog) {
     catalog.Add(u"frmVar", frmVarLayout);
     catalog.Add(u"frmConst", frmConstLayout);
     catalog.Add(u"frmInputBox", frmInputBoxLayout);
+    catalog.Add(u"frmEnumOrType", frmEnumOrTypeLayout);
+    catalog.Add(u"frmItemAdd", frmItemAddLayout);
 }
 
 }  // namespace quillet::builders

@@ -12,6 +12,8 @@ dialogs::FormLayout frmClassLayout();
 dialogs::FormLayout frmVarLayout();
 dialogs::FormLayout frmConstLayout();
 dialogs::FormLayout frmInputBoxLayout();
+dialogs::FormLayout frmEnumOrTypeLayout();
+dialogs::FormLayout frmItemAddLayout();
 
 // Adds every builder's layout to the catalogue, by form name.
 void AddBuilderLayouts(dialogs::LayoutCatalog& catalog);

@@ -2,7 +2,9 @@
 
 #include "builders/frm_class.h"
 #include "builders/frm_const.h"
+#include "builders/frm_enum_or_type.h"
 #include "builders/frm_input_box.h"
+#include "builders/frm_item_add.h"
 #include "builders/frm_procedure.h"
 #include "builders/frm_property.h"
 #include "builders/frm_var.h"
@@ -26,6 +28,8 @@ void RegisterBuilders(core::Context& ctx) {
     RegisterBuilder(ctx, u"frmVar", [&ctx](const std::vector<Str>& args) { OpenVariableBuilder(ctx, args); });
     RegisterBuilder(ctx, u"frmConst", [&ctx](const std::vector<Str>& args) { OpenConstantBuilder(ctx, args); });
     RegisterBuilder(ctx, u"frmInputBox", [&ctx](const std::vector<Str>& args) { OpenInputBox(ctx, args); });
+    RegisterBuilder(ctx, u"frmEnumOrType", [&ctx](const std::vector<Str>& args) { OpenEnumOrTypeBuilder(ctx, args); });
+    RegisterBuilder(ctx, u"frmItemAdd", [&ctx](const std::vector<Str>& args) { OpenItemAdd(ctx, args); });
 }
 
 }  // namespace quillet::builders

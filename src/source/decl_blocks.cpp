@@ -61,6 +61,25 @@ long DeclarationBlockLine(host::CodeModule& module, long line, bool blnEnum) {
     return 0;
 }
 
+bool DeclarationBlockFind(host::CodeModule& module, const Str& name, bool blnEnum, long& header, long& endLine) {
+    const Str keyword = blnEnum ? u"Enum" : u"Type";
+    long declarations = module.CountOfDeclarationLines();
+    header = endLine = 0;
+    for (long n = 1; n <= declarations && header == 0; ++n) {
+        Str statement = withoutAccess(module.Lines(n, 1));
+        Str rest = Trim(statement.substr(std::min(statement.size(), keyword.size())));
+        if (!opensBlock(statement, keyword)) continue;
+        Str word = rest.substr(0, rest.find_first_of(u" '"));
+        if (basic::StrComp(word, name, Compare::Text) == 0) header = n;
+    }
+    for (long n = header + 1; header > 0 && n <= module.CountOfLines(); ++n) {
+        if (!closesBlock(module.Lines(n, 1), keyword)) continue;
+        endLine = n;
+        return true;
+    }
+    return false;
+}
+
 long CaretBlockLine(host::VBE& vbe, bool blnEnum) {
     auto pane = vbe.ActiveCodePane();
     if (!pane) return 0;

@@ -16,6 +16,10 @@ long DeclarationBlockLine(host::CodeModule& module, long line, bool blnEnum);
 // The same for the caret of the active code pane; 0 without a pane.
 long CaretBlockLine(host::VBE& vbe, bool blnEnum);
 
+// The Enum (blnEnum) or Type block named `name` in the module's declarations: its header's line
+// and its "End" line; a header behind a comment mark does not count. False when there is none.
+bool DeclarationBlockFind(host::CodeModule& module, const Str& name, bool blnEnum, long& header, long& endLine);
+
 // True when a line put in at `line` (in place of a blank one) would stand inside another
 // statement: within an Enum or Type block, between "#If" and "#End If", or behind a line that
 // continues with " _".

@@ -176,7 +176,7 @@ TEST_F(CommandBar, EveryWiredControlHasItsSink) {
     for (const auto& made : commandBarState(*ctx).controls)
         if (made.row && !made.row->handler.empty()) ++wired;
     EXPECT_EQ(commandBarState(*ctx).sinks.size(), wired);
-    EXPECT_EQ(wired, walk().size() - 15);  // pop-ups but "&Quillet", and the type-item entry, have none
+    EXPECT_EQ(wired, walk().size() - 14);  // pop-ups but "&Quillet" have none
 }
 
 TEST_F(CommandBar, ErrorHandlerListSelectsTheSettingIgnoringCase) {

@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 
+#include "builders/builder_registry.h"
 #include "command_fixture.h"
 #include "settings/catalogue.h"
 #include "settings/ini_vars.h"
@@ -75,16 +76,18 @@ TEST_F(CommandHandlers, ErrorHandlingPassesTheListsText) {
     EXPECT_EQ(ctx->CurrentCommand, u"ErrorHandling.ErrLog");
 }
 
-TEST_F(CommandHandlers, AddItemToUserDefinedTypeDoesNothing) {
+TEST_F(CommandHandlers, AddItemToUserDefinedTypeOpensItsDialog) {
     openModule(procModule(), 5, 5);
+    builders::RegisterBuilders(*ctx);
     build();
     Str before = moduleText();
-    ctx->CurrentCommand = u"untouched";
     click(u"&Quillet &Variable Add Item to User-Defined Data Ty&pe...");
+    EXPECT_EQ(ctx->CurrentCommand, u"Type.Item");
+    ASSERT_NE(ctx->Forms->Top(), nullptr);
+    EXPECT_EQ(ctx->Forms->Top()->Name(), u"frmItemAdd");
+    EXPECT_EQ(ctx->Forms->Top()->Caption, u"Add Item to User-Defined Data Type");
     EXPECT_EQ(moduleText(), before);
-    EXPECT_EQ(ctx->CurrentCommand, u"untouched");
     EXPECT_TRUE(reports.empty());
-    EXPECT_TRUE(platform->shownBoxes().empty());
 }
 
 TEST_F(CommandHandlers, BuildersOpenByTheirFormName) {

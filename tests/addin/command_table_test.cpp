@@ -268,7 +268,7 @@ TEST_F(CommandTable, EveryHandlerNameIsWiredOnce) {
     EXPECT_TRUE(handlers.count(u"mnuhDimCollection"));
     EXPECT_TRUE(handlers.count(u"mnuhConstDate"));
     EXPECT_FALSE(handlers.count(u"mnuhConstVariant"));
-    EXPECT_FALSE(handlers.count(u"mnuhTypeItem"));
+    EXPECT_TRUE(handlers.count(u"mnuhTypeItem"));
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include "builders/builder_layouts.h"
 #include "dialogs/layout_check.h"
 #include "builders/frm_const.h"
+#include "builders/frm_enum_or_type.h"
+#include "builders/frm_item_add.h"
 #include "builders/frm_input_box.h"
 #include "var_fixture.h"
 
@@ -35,6 +37,17 @@ TEST_F(DeclarationLayouts, VariableBuilderKeepsTheRules) {
 TEST_F(DeclarationLayouts, ConstantBuilderKeepsTheRules) {
     builders::frmConst form(*ctx);
     expectKeepsTheRules(form, builders::frmConstLayout());
+}
+
+TEST_F(DeclarationLayouts, EnumAndTypeBuilderKeepsTheRules) {
+    builders::frmEnumOrType form(*ctx);
+    expectKeepsTheRules(form, builders::frmEnumOrTypeLayout());
+}
+
+TEST_F(DeclarationLayouts, ItemAddKeepsTheRules) {
+    builders::frmItemAdd form(*ctx);
+    form.Init(10003);
+    expectKeepsTheRules(form, builders::frmItemAddLayout());
 }
 
 TEST_F(DeclarationLayouts, QuickInputBoxKeepsTheRules) {

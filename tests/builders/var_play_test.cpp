@@ -76,5 +76,19 @@ TEST_F(VariableBuilderPlay, TheQuickInputBoxCancelledWritesNothing) {
     EXPECT_EQ(dir.read("basMain.bas"), original);
 }
 
+TEST_F(VariableBuilderPlay, TheEnumBuilderOpensAndWritesItsBlockBehindTheDeclarations) {
+    ASSERT_EQ(play("open frmEnumOrType Enum\nexpect frmEnumOrType caption New enum\nset txtName InvoiceState\n"
+                   "set txtPrefix st\nset txtItems Open\ncheck optAccessibility(1) 1\nclick cmdOk\n"
+                   "expect-form frmEnumOrType closed\n"),
+              cli::kExitOk)
+        << err.str();
+    std::string expected = original;
+    std::string declarations = "Private Const INVOICES_SHEET As String = \"Invoices\"\r\n";
+    size_t at = expected.find(declarations);
+    ASSERT_NE(at, std::string::npos);
+    expected.insert(at + declarations.size(), "Public Enum stInvoiceState\r\n    stOpen\r\nEnd Enum\r\n");
+    EXPECT_EQ(dir.read("basMain.bas"), expected);
+}
+
 }  // namespace
 }  // namespace quillet::builders

@@ -11,7 +11,7 @@ class DeclarationScripts : public testing::VariableFixture, public ::testing::Wi
 
 std::vector<std::string> scriptNames() {
     std::vector<std::string> names;
-    for (const char* folder : {"variable", "constant"})
+    for (const char* folder : {"variable", "constant", "enum"})
         for (const std::string& name : testing::BuilderFixture::scriptsIn(folder)) names.push_back(name);
     return names;
 }

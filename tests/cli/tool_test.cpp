@@ -153,8 +153,15 @@ TEST_F(CliTool, UnknownQuickCommandIsAUsageErrorThatListsTheKnownWords) {
 
 // A builder that is there opens and then says that it needs play (see the Property Builder's tool
 // tests); the words whose dialogs are not built yet say so before the project is read.
+TEST_F(CliTool, TheEnumAndTypeCommandsOpenTheirBuilderAndWriteNothing) {
+    EXPECT_EQ(run({"run", "Type", "--project", project, "--at", "basMain:12:5"}), kExitUsage);
+    EXPECT_EQ(err.str(), "quillet: Type opens the dialog frmEnumOrType (New User-Defined Data Type); drive it with a UI "
+                         "script: quillet play SCRIPT\n");
+    EXPECT_EQ(touched(), "");
+}
+
 TEST_F(CliTool, AQuickCommandWhoseDialogIsNotBuiltYetSaysSoAndIsExitOne) {
-    for (const char* word : {"Enum", "With", "Select Case", "Debug.Print "}) {
+    for (const char* word : {"With", "Select Case", "Debug.Print "}) {
         EXPECT_EQ(run({"run", word, "String", "--project", project, "--at", "basMain:12:5"}), kExitUsage) << word;
         EXPECT_EQ(err.str(), std::string("quillet: the quick command \"") + word +
                                  "\" asks its question in a dialog that this version does not have yet; "
