@@ -105,9 +105,7 @@ void ToolBarSave(Context& ctx, const host::CommandBarsPtr& bars, const Str& suff
     ignoringErrors([&] { saveNumber(ctx, u"ToolbarLeft" + suffix, bar->Left()); });
     ignoringErrors([&] { saveNumber(ctx, u"ToolbarTop" + suffix, bar->Top()); });
     ignoringErrors([&] { bar->Visible(false); });
-    // An editor busy with something else may refuse a call once: a bar left behind would stay
-    // in the editor's bars for good, so its removal is tried a second time.
-    if (!ignoringErrors([&] { bar->Delete(); })) bar->Delete();
+    bar->Delete();
     ignoringErrors([&] { bars->Item(u"CodeExplorerPopUp")->Delete(); });
 }
 

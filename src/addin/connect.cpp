@@ -99,8 +99,10 @@ void Connect::AddinInstance_OnDisconnection(long /*removeMode*/) noexcept {
     try {
         Context& ctx = *context_;
         CommandBarEventsRelease(ctx);
-        guarded(ctx, Str(kModule) + u"AddinInstance_OnDisconnection",
-                [&] { ToolBarSave(ctx, ctx.VBInstance->CommandBars(), u""); });
+        // An editor busy with something else may refuse a call once, and a bar left behind would
+        // stay among its bars for good: a failed removal is tried a second time before it is told.
+        auto removeBar = [&] { ToolBarSave(ctx, ctx.VBInstance->CommandBars(), u""); };
+        if (!ignoringErrors(removeBar)) guarded(ctx, Str(kModule) + u"AddinInstance_OnDisconnection", removeBar);
         ctx.TimerForm.reset();
         AddInTerminate(ctx);
     } catch (...) {
