@@ -121,6 +121,10 @@ void addBuilderOpeners(WindowSurface& surface, Checks& c, Session& s) {
     surface.addOpener(u"frmVar", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"&Add Variable..."}); });
     surface.addOpener(u"frmConst", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"&Add Constant..."}); });
     surface.addOpener(u"frmClass", [&c, &s](const std::vector<Str>&) { clickBar(c, s.vbe(), {u"Add Cl&ass..."}); });
+}
+
+// The dialogs opened with a type or a kind: an entry of a pop-up of the bar's "&Quillet".
+void addPopupOpeners(WindowSurface& surface, Checks& c, Session& s) {
     // The Property Builder with a type, and the input box of a kind and type: the entry of that
     // type on the pop-up of the kind.
     auto typedEntry = [&c, &s](const Str& popup, const Str& type) {
@@ -137,6 +141,26 @@ void addBuilderOpeners(WindowSurface& surface, Checks& c, Session& s) {
         c.check(!popup.empty() && args.size() == 2, "the input box is opened by a Dim or Const entry of a type");
         if (!popup.empty() && args.size() == 2) typedEntry(popup, args[1]);
     });
+    // The Enum and Type dialogs: an entry of the "&Constant" or "&Variable" pop-up by the kind.
+    struct KindEntry {
+        const char16_t* form;
+        const char16_t* kind;
+        const char16_t* popup;
+        const char16_t* entry;
+    };
+    static const KindEntry kKindEntries[] = {
+        {u"frmEnumOrType", u"Enum", u"&Constant", u"New &Enum..."},
+        {u"frmEnumOrType", u"Type", u"&Variable", u"New &User-Defined Data Type..."},
+        {u"frmItemAdd", u"Enum", u"&Constant", u"Add Constant to En&um..."},
+        {u"frmItemAdd", u"Type", u"&Variable", u"Add Item to User-Defined Data Ty&pe..."},
+    };
+    for (const Str form : {u"frmEnumOrType", u"frmItemAdd"}) {
+        surface.addOpener(form, [&c, typedEntry, form](const std::vector<Str>& args) {
+            for (const auto& entry : kKindEntries)
+                if (form == entry.form && !args.empty() && args[0] == entry.kind) return typedEntry(entry.popup, entry.entry);
+            c.check(false, "the " + narrow(form) + " is opened by the Enum or Type entry of a pop-up");
+        });
+    }
 }
 
 }  // namespace
@@ -144,6 +168,7 @@ void addBuilderOpeners(WindowSurface& surface, Checks& c, Session& s) {
 WindowSurface builderSurface(Checks& c, Session& s, BoxAnswerer& boxes, dialogs::UiScriptHooks& hooks) {
     WindowSurface surface;
     addBuilderOpeners(surface, c, s);
+    addPopupOpeners(surface, c, s);
     hooks.answer = [&boxes](const Str& answer) { boxes.queue(std::wstring(answer.begin(), answer.end())); };
     hooks.moduleText = [&s](const Str& module) -> std::optional<Str> {
         if (!s.vbe().activeProject()->component(module)) return std::nullopt;
@@ -283,6 +308,7 @@ void runDialogScenarios(Checks& c, BoxAnswerer& boxes, const std::wstring& scrip
     playScriptFolder(c, boxes, {}, scriptsFolder);
     playScriptFolder(c, boxes, testing::variableScriptSetup(), scriptsFolder + L"\\variable");
     playScriptFolder(c, boxes, testing::variableScriptSetup(), scriptsFolder + L"\\constant");
+    playScriptFolder(c, boxes, testing::variableScriptSetup(), scriptsFolder + L"\\enum");
     playScriptFolder(c, boxes, testing::propertyScriptSetup(), scriptsFolder + L"\\property");
     playScriptFolder(c, boxes, testing::classScriptSetup(), scriptsFolder + L"\\class");
     // The scenarios and pictures that follow expect the builders' settings alone.

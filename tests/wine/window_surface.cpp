@@ -168,6 +168,10 @@ void WindowSurface::setText(const Str& name, const Str& text) {
         if (!edit) throw basic::VbError(5, u"The list of " + name + u" takes no typed text");
         SendMessageW(edit, EM_SETSEL, 0, -1);
         SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(value.c_str()));
+    } else if (GetWindowLongW(window, GWL_STYLE) & ES_MULTILINE) {
+        // A multi-line edit control tells no EN_CHANGE for WM_SETTEXT: typed over instead.
+        SendMessageW(window, EM_SETSEL, 0, -1);
+        SendMessageW(window, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(value.c_str()));
     } else {
         SendMessageW(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(value.c_str()));
     }
