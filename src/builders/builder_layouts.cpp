@@ -10,6 +10,7 @@ void AddBuilderLayouts(dialogs::LayoutCatalog& catalog) {
     catalog.Add(u"frmVar", frmVarLayout);
     catalog.Add(u"frmConst", frmConstLayout);
     catalog.Add(u"frmInputBox", frmInputBoxLayout);
+    catalog.Add(u"frmSelectTableAndFields", frmSelectTableAndFieldsLayout);
 }
 
 }  // namespace quillet::builders

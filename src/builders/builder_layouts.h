@@ -12,6 +12,7 @@ dialogs::FormLayout frmClassLayout();
 dialogs::FormLayout frmVarLayout();
 dialogs::FormLayout frmConstLayout();
 dialogs::FormLayout frmInputBoxLayout();
+dialogs::FormLayout frmSelectTableAndFieldsLayout();
 
 // Adds every builder's layout to the catalogue, by form name.
 void AddBuilderLayouts(dialogs::LayoutCatalog& catalog);

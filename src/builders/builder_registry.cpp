@@ -3,6 +3,7 @@
 #include "builders/frm_class.h"
 #include "builders/frm_const.h"
 #include "builders/frm_input_box.h"
+#include "builders/frm_select_table.h"
 #include "builders/frm_procedure.h"
 #include "builders/frm_property.h"
 #include "builders/frm_var.h"
@@ -26,6 +27,8 @@ void RegisterBuilders(core::Context& ctx) {
     RegisterBuilder(ctx, u"frmVar", [&ctx](const std::vector<Str>& args) { OpenVariableBuilder(ctx, args); });
     RegisterBuilder(ctx, u"frmConst", [&ctx](const std::vector<Str>& args) { OpenConstantBuilder(ctx, args); });
     RegisterBuilder(ctx, u"frmInputBox", [&ctx](const std::vector<Str>& args) { OpenInputBox(ctx, args); });
+    RegisterBuilder(ctx, u"frmSelectTableAndFields",
+                    [&ctx](const std::vector<Str>& args) { OpenSelectTableAndFields(ctx, args); });
 }
 
 }  // namespace quillet::builders

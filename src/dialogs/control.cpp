@@ -38,7 +38,7 @@ void Control::checkIndex(long index, long error) const {
 void Control::AddItem(const Str& text, long index) {
     if (index == -1) index = ListCount();
     if (index < 0 || index > ListCount()) throw basic::VbError::standard(basic::err::InvalidCall);
-    list_.insert(list_.begin() + index, ListEntry{text, 0});
+    list_.insert(list_.begin() + index, ListEntry{text, 0, false});
     if (listIndex_ >= index) ++listIndex_;
 }
 
@@ -70,6 +70,16 @@ long Control::ItemData(long index) const {
 void Control::ItemData(long index, long data) {
     checkIndex(index, kInvalidPropertyArrayIndex);
     list_[index].itemData = data;
+}
+
+bool Control::Selected(long index) const {
+    checkIndex(index, kInvalidPropertyArrayIndex);
+    return list_[index].selected;
+}
+
+void Control::Selected(long index, bool value) {
+    checkIndex(index, kInvalidPropertyArrayIndex);
+    list_[index].selected = value;
 }
 
 void Control::ListIndex(long index) {
