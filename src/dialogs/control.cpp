@@ -57,30 +57,21 @@ void Control::Clear() {
     if (kind_ == ControlKind::ComboBox) text_.clear();
 }
 
-Str Control::List(long index) const {
+const ListEntry& Control::entry(long index) const {
     checkIndex(index, kInvalidPropertyArrayIndex);
-    return list_[index].text;
+    return list_[index];
 }
 
-long Control::ItemData(long index) const {
+ListEntry& Control::entry(long index) {
     checkIndex(index, kInvalidPropertyArrayIndex);
-    return list_[index].itemData;
+    return list_[index];
 }
 
-void Control::ItemData(long index, long data) {
-    checkIndex(index, kInvalidPropertyArrayIndex);
-    list_[index].itemData = data;
-}
-
-bool Control::Selected(long index) const {
-    checkIndex(index, kInvalidPropertyArrayIndex);
-    return list_[index].selected;
-}
-
-void Control::Selected(long index, bool value) {
-    checkIndex(index, kInvalidPropertyArrayIndex);
-    list_[index].selected = value;
-}
+Str Control::List(long index) const { return entry(index).text; }
+long Control::ItemData(long index) const { return entry(index).itemData; }
+void Control::ItemData(long index, long data) { entry(index).itemData = data; }
+bool Control::Selected(long index) const { return entry(index).selected; }
+void Control::Selected(long index, bool value) { entry(index).selected = value; }
 
 void Control::ListIndex(long index) {
     if (index < -1 || index >= ListCount()) throw basic::VbError::standard(kInvalidPropertyValue);

@@ -91,6 +91,9 @@ public:
 
 private:
     void checkIndex(long index, long error) const;
+    // The list entry by 0-based index; an index outside the list raises 381.
+    const ListEntry& entry(long index) const;
+    ListEntry& entry(long index);
 
     Form* owner_;
     Str name_;
