@@ -14,6 +14,9 @@ targets=(source_fuzz_parsers source_fuzz_scans)
 targets+=(typelib_fuzz)
 targets+=(tools_fuzz_tokens)
 targets+=(lnk_fuzz)
+targets+=(mdb_fuzz)
+# Libraries a target needs beyond the core.
+declare -A target_libs=([mdb_fuzz]="$(pkg-config --libs libmdb 2>/dev/null || true)")
 
 # libFuzzer's runtime comes with compiler-rt, which apt only recommends with clang.
 if ! command -v clang++ >/dev/null 2>&1 || ! dpkg -s libclang-rt-14-dev >/dev/null 2>&1; then
@@ -36,7 +39,7 @@ status=0
 for target in "${targets[@]}"; do
     echo "== $target: building =="
     clang++ -std=c++20 -g -O1 -fsanitize=fuzzer $sanitizers -I src "tests/fuzz/$target.cpp" \
-        "$build/libquillet_core.a" -o "$build/$target"
+        "$build/libquillet_core.a" ${target_libs[$target]:-} -o "$build/$target"
     # A fresh working corpus per target, seeded from the checked-in one; new finds stay in the build.
     corpus="$build/corpus/$target"
     mkdir -p "$corpus"

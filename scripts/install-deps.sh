@@ -10,6 +10,8 @@ packages+=(wine64-tools)
 packages+=(binutils-mingw-w64-x86-64 binutils-mingw-w64-i686)
 # liblnk's lnkinfo reads the shortcut files the fragment library writes, in a differential test.
 packages+=(liblnk-dev liblnk-utils)
+# MDB Tools reads the tables and fields of Access database files for "Copy from table".
+packages+=(mdbtools-dev)
 missing=()
 for p in "${packages[@]}"; do
     dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")

@@ -12,6 +12,7 @@ void AddBuilderLayouts(dialogs::LayoutCatalog& catalog) {
     catalog.Add(u"frmInputBox", frmInputBoxLayout);
     catalog.Add(u"frmEnumOrType", frmEnumOrTypeLayout);
     catalog.Add(u"frmItemAdd", frmItemAddLayout);
+    catalog.Add(u"frmSelectTableAndFields", frmSelectTableAndFieldsLayout);
 }
 
 }  // namespace quillet::builders

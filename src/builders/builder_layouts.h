@@ -14,6 +14,7 @@ dialogs::FormLayout frmConstLayout();
 dialogs::FormLayout frmInputBoxLayout();
 dialogs::FormLayout frmEnumOrTypeLayout();
 dialogs::FormLayout frmItemAddLayout();
+dialogs::FormLayout frmSelectTableAndFieldsLayout();
 
 // Adds every builder's layout to the catalogue, by form name.
 void AddBuilderLayouts(dialogs::LayoutCatalog& catalog);

@@ -5,6 +5,7 @@
 #include "builders/frm_enum_or_type.h"
 #include "builders/frm_input_box.h"
 #include "builders/frm_item_add.h"
+#include "builders/frm_select_table.h"
 #include "builders/frm_procedure.h"
 #include "builders/frm_property.h"
 #include "builders/frm_var.h"
@@ -30,6 +31,8 @@ void RegisterBuilders(core::Context& ctx) {
     RegisterBuilder(ctx, u"frmInputBox", [&ctx](const std::vector<Str>& args) { OpenInputBox(ctx, args); });
     RegisterBuilder(ctx, u"frmEnumOrType", [&ctx](const std::vector<Str>& args) { OpenEnumOrTypeBuilder(ctx, args); });
     RegisterBuilder(ctx, u"frmItemAdd", [&ctx](const std::vector<Str>& args) { OpenItemAdd(ctx, args); });
+    RegisterBuilder(ctx, u"frmSelectTableAndFields",
+                    [&ctx](const std::vector<Str>& args) { OpenSelectTableAndFields(ctx, args); });
 }
 
 }  // namespace quillet::builders

@@ -84,9 +84,7 @@ void frmClass::hookEvents() {
     Handler(u"lvProperties_DblClick", [this] { guard(u"lvProperties_DblClick", [this] { cmdEditProp_Click(); }); });
     On(u"cmdDelProp_Click", [this] { guard(u"cmdDelProp_Click", [this] { cmdDelProp_Click(); }); });
     On(u"cmdFromTable_Click", [this] {
-        guard(u"cmdFromTable_Click", [this] {
-            if (ctx_.Forms->IsRegistered(u"frmSelectTableAndFields")) ctx_.Forms->Open(u"frmSelectTableAndFields", {});
-        });
+        guard(u"cmdFromTable_Click", [this] { cmdFromTable_Click(); });
     });
     On(u"cmdNewMethod_Click", [this] { guard(u"cmdNewMethod_Click", [this] { cmdNewMethod_Click(); }); });
     On(u"cmdEditMethod_Click", [this] { guard(u"cmdEditMethod_Click", [this] { cmdEditMethod_Click(); }); });
@@ -105,8 +103,9 @@ void frmClass::guard(const Str& method, const std::function<void()>& statement) 
 }
 
 void frmClass::Init() {
-    // The table route needs its dialog; without it the button stays off.
-    Controls(u"cmdFromTable").Enabled = ctx_.Forms->IsRegistered(u"frmSelectTableAndFields");
+    // The table route needs its dialog and an Access application; without them the button stays off.
+    Controls(u"cmdFromTable").Enabled =
+        ctx_.Forms->IsRegistered(u"frmSelectTableAndFields") && ctx_.AccessApp() != nullptr;
     Controls(u"TabMain").ListIndex(0);
     listsStateSet();
 }

@@ -64,6 +64,7 @@ private:
     void cmdEditMethod_Click();
     void cmdDelMethod_Click();
     void cmdCancel_Click();
+    void cmdFromTable_Click();
     bool cmdCreate_Click();
     bool nameAccepted(const Str& name, const Str& control, const Str& otherName);
     void propertyBuilderOpen();

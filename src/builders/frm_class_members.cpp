@@ -2,6 +2,7 @@
 // member's ID, and their new, edit and delete through the Property and Method Builders.
 
 #include "builders/frm_class.h"
+#include "builders/frm_select_table.h"
 #include "source/code_env.h"
 
 namespace quillet::builders {
@@ -105,6 +106,18 @@ void frmClass::CopyFromTable(const Str& table, const std::vector<generators::Tab
     generators::RecordClassFromTable(ctx_, *class_, table, fields, ado);
     PropertiesList(false);
     MethodsList(false);
+}
+
+// Copy from table: the fields ticked in Select Table and Fields, with their packed types.
+void frmClass::cmdFromTable_Click() {
+    OpenSelectTableAndFields(ctx_, {}, [this](frmSelectTableAndFields& form) {
+        if (!form.OK()) return;
+        auto& list = form.Controls(u"lstFields");
+        std::vector<generators::TableField> fields;
+        for (long i = 0; i < list.ListCount(); ++i)
+            if (list.Selected(i)) fields.push_back({list.List(i), list.ItemData(i)});
+        CopyFromTable(form.Controls(u"cboTables").Text(), fields, generators::ProjectIsAdo(ctx_));
+    });
 }
 
 void frmClass::cmdDelMethod_Click() {

@@ -38,7 +38,7 @@ void Control::checkIndex(long index, long error) const {
 void Control::AddItem(const Str& text, long index) {
     if (index == -1) index = ListCount();
     if (index < 0 || index > ListCount()) throw basic::VbError::standard(basic::err::InvalidCall);
-    list_.insert(list_.begin() + index, ListEntry{text, 0});
+    list_.insert(list_.begin() + index, ListEntry{text, 0, false});
     if (listIndex_ >= index) ++listIndex_;
 }
 
@@ -57,20 +57,21 @@ void Control::Clear() {
     if (kind_ == ControlKind::ComboBox) text_.clear();
 }
 
-Str Control::List(long index) const {
+const ListEntry& Control::entry(long index) const {
     checkIndex(index, kInvalidPropertyArrayIndex);
-    return list_[index].text;
+    return list_[index];
 }
 
-long Control::ItemData(long index) const {
+ListEntry& Control::entry(long index) {
     checkIndex(index, kInvalidPropertyArrayIndex);
-    return list_[index].itemData;
+    return list_[index];
 }
 
-void Control::ItemData(long index, long data) {
-    checkIndex(index, kInvalidPropertyArrayIndex);
-    list_[index].itemData = data;
-}
+Str Control::List(long index) const { return entry(index).text; }
+long Control::ItemData(long index) const { return entry(index).itemData; }
+void Control::ItemData(long index, long data) { entry(index).itemData = data; }
+bool Control::Selected(long index) const { return entry(index).selected; }
+void Control::Selected(long index, bool value) { entry(index).selected = value; }
 
 void Control::ListIndex(long index) {
     if (index < -1 || index >= ListCount()) throw basic::VbError::standard(kInvalidPropertyValue);

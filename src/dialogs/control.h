@@ -25,6 +25,7 @@ constexpr long vbGrayed = 2;
 struct ListEntry {
     Str text;
     long itemData = 0;
+    bool selected = false;  // the tick of a check-box list's entry
 };
 
 class Control {
@@ -59,6 +60,11 @@ public:
     long ListIndex() const { return listIndex_; }
     void ListIndex(long index);
     const std::vector<ListEntry>& Entries() const { return list_; }
+    // A list box in check-box style (Basic's Style 1): each entry shows a box, ticked when the
+    // entry is Selected. Selected by 0-based index; an index outside the list raises 381.
+    bool CheckBoxes = false;
+    bool Selected(long index) const;
+    void Selected(long index, bool value);
 
     // Selection in the text of a text box or combo box (0-based start, as Basic's SelStart).
     long SelStart = 0;
@@ -85,6 +91,9 @@ public:
 
 private:
     void checkIndex(long index, long error) const;
+    // The list entry by 0-based index; an index outside the list raises 381.
+    const ListEntry& entry(long index) const;
+    ListEntry& entry(long index);
 
     Form* owner_;
     Str name_;

@@ -96,7 +96,8 @@ void clsProcedure::GetArgString(long rIndent, Str& text) {
             if (rIndent > 0 && ArgumentsOnSeparateLine && i >= 1) list += u"_" + Str(kCrLf) + basic::Space(rIndent);
             list += (ordered[i] ? ordered[i]->ArgumentString() : Str()) + u", ";
         }
-        text = basic::Left(list, basic::Len(list) - 2);
+        // No arguments: the list stays empty (Left with a negative length would raise 5).
+        if (!list.empty()) text = basic::Left(list, basic::Len(list) - 2);
     });
 }
 

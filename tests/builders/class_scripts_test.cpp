@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "hosts/files/file_project.h"
+#include "hosts/memory/access_app.h"
 #include "property_fixture.h"
 
 namespace quillet::testing {
@@ -16,6 +17,15 @@ protected:
     ClassScripts() {
         applySetup(classScriptSetup());
         collectionClassReady();
+        // The Access project whose tables "Copy from table" offers.
+        ctx->hostApplications().AccessApp = std::make_shared<hosts::memory::AccessApplication>(
+            host::acMDB, std::vector<host::DatabaseTable>{
+                             {u"MSysObjects", u"TABLE", {{u"Id", 4, host::dbAutoIncrField}}},
+                             {u"Orders", u"TABLE",
+                              {{u"OrderID", 4, host::dbAutoIncrField | host::dbFixedField},
+                               {u"Customer Name", 10, host::dbVariableField | host::dbUpdatableField},
+                               {u"Ordered", 8, host::dbFixedField | host::dbUpdatableField}}},
+                             {u"Customers", u"TABLE", {{u"CustomerID", 4, host::dbFixedField}}}});
     }
 };
 

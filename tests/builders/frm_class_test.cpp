@@ -2,12 +2,14 @@
 // Create checks, the question before work is lost, and the class it makes.
 
 #include "builders/frm_class.h"
+#include "builders/frm_select_table.h"
 
 #include <fstream>
 
 #include "../generators/golden.h"
 #include "addin/command_handlers.h"
 #include "hosts/files/file_project.h"
+#include "hosts/memory/access_app.h"
 #include "property_fixture.h"
 
 namespace quillet::builders {
@@ -179,6 +181,38 @@ TEST_F(ClassBuilder, CopyFromTableFillsBothListsAndNothingTouchesTheProjectBefor
     Str text = moduleText(u"clsProduct");
     EXPECT_NE(basic::InStr(text, u"Set Recordset = CurrentDb.OpenRecordset(\"Products\", dbOpenDynaset)"), 0);
     EXPECT_NE(basic::InStr(text, u".Fields(\"Unit Price\").Value = Me.UnitPrice"), 0);
+}
+
+TEST_F(ClassBuilder, CopyFromTableTakesTheTickedFieldsOfTheTablePickedInSelectTableAndFields) {
+    ctx->hostApplications().AccessApp = std::make_shared<hosts::memory::AccessApplication>(
+        host::acMDB, std::vector<host::DatabaseTable>{
+                         {u"Products", u"TABLE",
+                          {{u"ProductID", 4, host::dbAutoIncrField}, {u"Unit Price", 5, 0}, {u"Discontinued", 1, 0}}}});
+    auto& form = open();
+    EXPECT_TRUE(form.Controls(u"cmdFromTable").Enabled);
+    form.Controls(u"txtClassName").Text(u"clsProduct");
+    click(form, u"cmdFromTable");
+    auto& select = top<frmSelectTableAndFields>();
+    select.Controls(u"lstFields").Selected(2, false);
+    click(select, u"cmdOK");
+    ASSERT_EQ(ctx->Forms->Top(), &form);
+    std::vector<Str> names;
+    for (long i = 0; i < form.PropertiesView().Count(); ++i)
+        names.push_back(form.PropertiesView().List().List(i) + u" " + form.PropertiesView().SubItems(i)[0]);
+    EXPECT_EQ(names, (std::vector<Str>{u"ProductID Long", u"UnitPrice Currency", u"Recordset Recordset", u"Loaded Boolean"}));
+    EXPECT_EQ(form.Class().Properties().Items.Item(1)->DataType2, 10004);
+    EXPECT_EQ(form.MethodsView().Count(), 5);
+    EXPECT_TRUE(reports.empty());
+}
+
+TEST_F(ClassBuilder, CopyFromTableCancelledChangesNothing) {
+    ctx->hostApplications().AccessApp = std::make_shared<hosts::memory::AccessApplication>(
+        host::acMDB, std::vector<host::DatabaseTable>{{u"Products", u"TABLE", {{u"ProductID", 4, 0}}}});
+    auto& form = open();
+    click(form, u"cmdFromTable");
+    click(top<frmSelectTableAndFields>(), u"cmdCancel");
+    EXPECT_EQ(form.PropertiesView().Count(), 0);
+    EXPECT_EQ(form.MethodsView().Count(), 0);
 }
 
 }  // namespace
