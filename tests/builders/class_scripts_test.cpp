@@ -39,6 +39,9 @@ TEST_P(ClassScripts, LeaveTheExpectedModuleText) {
 
 INSTANTIATE_TEST_SUITE_P(Class, ClassScripts, ::testing::ValuesIn(PropertyFixture::scriptsIn("class")),
                          scriptTestName);
+// The scripts that need an Access application (its database's tables).
+INSTANTIATE_TEST_SUITE_P(Access, ClassScripts, ::testing::ValuesIn(PropertyFixture::scriptsIn("access")),
+                         scriptTestName);
 
 }  // namespace
 }  // namespace quillet::testing
