@@ -20,7 +20,7 @@ bool is(const Str& a, const Str& b) { return basic::StrComp(a, b, basic::Compare
 
 }  // namespace
 
-frmConst::frmConst(core::Context& ctx) : Form(u"frmConst"), ctx_(ctx) {
+frmConst::frmConst(core::Context& ctx) : DeclarationDialog(ctx, u"frmConst") {
     Caption = u"Constant Builder";
     addControls();
     hookEvents();
@@ -67,10 +67,6 @@ void frmConst::hookEvents() {
         return basic::Variant{};
     });
     support::clsComboExpand::init(*this, Controls(u"cboDataType"));
-}
-
-void frmConst::guard(const Str& method, const std::function<void()>& statement) {
-    core::guarded(ctx_, u"frmConst." + method, statement);
 }
 
 Str frmConst::typeText() { return basic::Trim(Controls(u"cboDataType").Text()); }

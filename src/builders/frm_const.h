@@ -4,14 +4,11 @@
 // value is written as a literal of the type, and the name goes to the clipboard and, when asked,
 // to the caret.
 
-#include "builders/declaration_context.h"
-#include "core/context.h"
-#include "dialogs/form.h"
-#include "support/cls_html_help.h"
+#include "builders/declaration_dialog.h"
 
 namespace quillet::builders {
 
-class frmConst : public dialogs::Form {
+class frmConst : public DeclarationDialog {
 public:
     explicit frmConst(core::Context& ctx);
     ~frmConst() override;
@@ -37,7 +34,6 @@ public:
     // The value of txtValue as a literal of the chosen type; "" when there is none to write.
     Str ValueFormatted();
 
-    const DeclarationLists& Lists() const { return lists_; }
 
 protected:
     void Form_Activate() override;
@@ -46,7 +42,6 @@ protected:
 private:
     void addControls();
     void hookEvents();
-    void guard(const Str& method, const std::function<void()>& statement);
     void AccessibilityComboBoxFill();
     void typesFill(const Str& types, bool only);
     void contextRead(const Str& predefinedName, const Str& predefinedValue);
@@ -62,9 +57,6 @@ private:
     void pasteName(const Str& name, bool vfPaste);
     Str typeText();
 
-    core::Context& ctx_;
-    support::clsHtmlHelpForForm help_;
-    DeclarationLists lists_;
     CaretPlace place_;
     bool inProcedure_ = false;
     bool targetIsCurrent_ = true;

@@ -19,7 +19,7 @@ constexpr long kKeyBlank = 32;
 
 }  // namespace
 
-frmEnumOrType::frmEnumOrType(core::Context& ctx) : Form(u"frmEnumOrType"), ctx_(ctx) {
+frmEnumOrType::frmEnumOrType(core::Context& ctx) : DeclarationDialog(ctx, u"frmEnumOrType") {
     Caption = u"New enum";
     addControls();
     hookEvents();
@@ -58,10 +58,6 @@ void frmEnumOrType::hookEvents() {
     Handler(u"lstVars_DblClick", [this] { guard(u"lstVars_DblClick", [this] { typeChosen(); }); });
     Controls(u"txtItems").KeyPressHandlers.push_back([this](dialogs::Control&, long& key) { txtItems_KeyPress(key); });
     Controls(u"lstVars").KeyPressHandlers.push_back([this](dialogs::Control&, long& key) { lstVars_KeyPress(key); });
-}
-
-void frmEnumOrType::guard(const Str& method, const std::function<void()>& statement) {
-    core::guarded(ctx_, u"frmEnumOrType." + method, statement);
 }
 
 void frmEnumOrType::Form_Unload() { help_.Terminate(); }

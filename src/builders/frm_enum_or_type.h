@@ -4,14 +4,11 @@
 // front of the name and of every item that lacks it; behind " As" in a Type's items a list of
 // type names pops up.
 
-#include "builders/declaration_context.h"
-#include "core/context.h"
-#include "dialogs/form.h"
-#include "support/cls_html_help.h"
+#include "builders/declaration_dialog.h"
 
 namespace quillet::builders {
 
-class frmEnumOrType : public dialogs::Form {
+class frmEnumOrType : public DeclarationDialog {
 public:
     explicit frmEnumOrType(core::Context& ctx);
     ~frmEnumOrType() override;
@@ -31,16 +28,12 @@ protected:
 private:
     void addControls();
     void hookEvents();
-    void guard(const Str& method, const std::function<void()>& statement);
     void cboModule_Change();
     void txtItems_KeyPress(long& keyAscii);
     void lstVars_KeyPress(long& keyAscii);
     void typeChosen();
     void typeListHide();
 
-    core::Context& ctx_;
-    support::clsHtmlHelpForForm help_;
-    DeclarationLists lists_;
     long kind_ = 10003;
 };
 

@@ -24,7 +24,7 @@ void namesInto(dialogs::Control& list, const C& collection) {
 
 }  // namespace
 
-frmItemAdd::frmItemAdd(core::Context& ctx) : Form(u"frmItemAdd"), ctx_(ctx) {
+frmItemAdd::frmItemAdd(core::Context& ctx) : DeclarationDialog(ctx, u"frmItemAdd") {
     addControls();
     hookEvents();
     HelpContextID = support::help_topics::EnumTypeBuilder;
@@ -56,10 +56,6 @@ void frmItemAdd::hookEvents() {
     ok(u"cmdOk_Click", false);
     ok(u"cmdNext_Click", true);
     On(u"cmdCancel_Click", [this] { Unload(); });
-}
-
-void frmItemAdd::guard(const Str& method, const std::function<void()>& statement) {
-    core::guarded(ctx_, u"frmItemAdd." + method, statement);
 }
 
 void frmItemAdd::Form_Unload() { help_.Terminate(); }

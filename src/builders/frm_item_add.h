@@ -3,14 +3,11 @@
 // list, the name (with a value or " As type" behind it) and a comment are typed; OK closes, OK &
 // New stays open for the next one.
 
-#include "builders/declaration_context.h"
-#include "core/context.h"
-#include "dialogs/form.h"
-#include "support/cls_html_help.h"
+#include "builders/declaration_dialog.h"
 
 namespace quillet::builders {
 
-class frmItemAdd : public dialogs::Form {
+class frmItemAdd : public DeclarationDialog {
 public:
     explicit frmItemAdd(core::Context& ctx);
     ~frmItemAdd() override;
@@ -29,12 +26,8 @@ protected:
 private:
     void addControls();
     void hookEvents();
-    void guard(const Str& method, const std::function<void()>& statement);
     void listFill();
 
-    core::Context& ctx_;
-    support::clsHtmlHelpForForm help_;
-    DeclarationLists lists_;
     long kind_ = 10003;
 };
 

@@ -23,7 +23,7 @@ const std::array<Str, 6>& frmVar::AccessibilityItem() {
     return items;
 }
 
-frmVar::frmVar(core::Context& ctx) : Form(u"frmVar"), ctx_(ctx) {
+frmVar::frmVar(core::Context& ctx) : DeclarationDialog(ctx, u"frmVar") {
     Caption = u"Variable Builder";
     addControls();
     hookEvents();
@@ -111,10 +111,6 @@ void frmVar::hookEvents() {
         return basic::Variant{};
     });
     support::clsComboExpand::init(*this, Controls(u"cboDataType"));
-}
-
-void frmVar::guard(const Str& method, const std::function<void()>& statement) {
-    core::guarded(ctx_, u"frmVar." + method, statement);
 }
 
 void frmVar::SetParentForm(dialogs::Form* parent) {

@@ -7,18 +7,15 @@
 #include <array>
 #include <memory>
 
-#include "builders/declaration_context.h"
-#include "core/context.h"
-#include "dialogs/form.h"
+#include "builders/declaration_dialog.h"
 #include "source/scan_module.h"
 #include "source/scan_proc.h"
-#include "support/cls_html_help.h"
 
 namespace quillet::builders {
 
 using basic::Str;
 
-class frmVar : public dialogs::Form {
+class frmVar : public DeclarationDialog {
 public:
     explicit frmVar(core::Context& ctx);
     ~frmVar() override;
@@ -46,7 +43,6 @@ public:
     void BuildCodeLine(Str& rstrText, Str& rstrLine);
     void SetControlsState();
 
-    const DeclarationLists& Lists() const { return lists_; }
 
 protected:
     void Form_Activate() override;
@@ -55,7 +51,6 @@ protected:
 private:
     void addControls();
     void hookEvents();
-    void guard(const Str& method, const std::function<void()>& statement);
     void contextRead();
     void LoadCombos();
     void AccessibilityComboBoxFill();
@@ -77,9 +72,6 @@ private:
     bool isChecked(const Str& box);
     Str typeText();
 
-    core::Context& ctx_;
-    support::clsHtmlHelpForForm help_;
-    DeclarationLists lists_;
     CaretPlace place_;
     source::C4_ProcDefPtr procDef_;
     bool procFoundInPublicList_ = false;
