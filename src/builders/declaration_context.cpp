@@ -1,6 +1,7 @@
 #include "builders/declaration_context.h"
 
 #include "source/code_env.h"
+#include "source/current_proc.h"
 #include "source/scan_module.h"
 #include "source/scan_proc.h"
 
@@ -9,11 +10,6 @@ namespace quillet::builders {
 namespace {
 
 bool is(const Str& a, const Str& b) { return basic::StrComp(a, b, basic::Compare::Text) == 0; }
-
-bool continues(const Str& line) {
-    Str trimmed = basic::Trim(line);
-    return !trimmed.empty() && trimmed.back() == u'_';
-}
 
 template <class C>
 source::NameLookup lookupInPtr(const C& collection) {
@@ -33,17 +29,13 @@ CaretPlace CaretPlaceGet(host::VBE& vbe) {
     if (line < 1 || line > count) return place;
     Str name = module->ProcOfLine(line, place.procKind);
     if (name.empty()) return place;
-    long body = module->ProcBodyLine(name, place.procKind);
-    long headerEnd = body;
-    while (headerEnd < count && continues(module->Lines(headerEnd, 1))) ++headerEnd;
-    long last = module->ProcStartLine(name, place.procKind) + module->ProcCountLines(name, place.procKind) - 1;
-    while (last > headerEnd && basic::Trim(module->Lines(last, 1)).empty()) --last;
-    if (line < body || line > last) return place;
+    const source::ProcSpan span = source::ProcSpanOf(*module, name, place.procKind, count);
+    if (line < span.bodyLine || line > span.lastLine) return place;
     place.procName = name;
-    place.bodyLine = body;
-    place.headerEnd = headerEnd;
+    place.bodyLine = span.bodyLine;
+    place.headerEnd = span.headerEnd;
     place.inProcedure = true;
-    place.inHeader = line <= headerEnd;
+    place.inHeader = line <= span.headerEnd;
     return place;
 }
 

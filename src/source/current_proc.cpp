@@ -24,6 +24,16 @@ bool isModifier(const Str& word) {
 
 }  // namespace
 
+ProcSpan ProcSpanOf(host::CodeModule& module, const Str& name, long kind, long count) {
+    ProcSpan span;
+    span.bodyLine = module.ProcBodyLine(name, kind);
+    span.headerEnd = span.bodyLine;
+    while (span.headerEnd < count && continues(module.Lines(span.headerEnd, 1))) ++span.headerEnd;
+    span.lastLine = module.ProcStartLine(name, kind) + module.ProcCountLines(name, kind) - 1;
+    while (span.lastLine > span.bodyLine && isBlank(module.Lines(span.lastLine, 1))) --span.lastLine;
+    return span;
+}
+
 bool CurrentProcGet(host::VBE& vbe, bool blnFull, Str& name, long& bodyLine, long& lastLine, long& kind) {
     name.clear();
     bodyLine = lastLine = kind = 0;
@@ -38,12 +48,10 @@ bool CurrentProcGet(host::VBE& vbe, bool blnFull, Str& name, long& bodyLine, lon
     name = module->ProcOfLine(startLine, kind);
     if (name.empty() || !blnFull) return !name.empty();
 
-    bodyLine = module->ProcBodyLine(name, kind);
-    long headerEnd = bodyLine;
-    while (headerEnd < count && continues(module->Lines(headerEnd, 1))) ++headerEnd;
-    lastLine = module->ProcStartLine(name, kind) + module->ProcCountLines(name, kind) - 1;
-    while (lastLine > bodyLine && isBlank(module->Lines(lastLine, 1))) --lastLine;
-    if (startLine >= headerEnd && startLine <= lastLine) return true;
+    const ProcSpan span = ProcSpanOf(*module, name, kind, count);
+    bodyLine = span.bodyLine;
+    lastLine = span.lastLine;
+    if (startLine >= span.headerEnd && startLine <= lastLine) return true;
     name.clear();
     return false;
 }
