@@ -146,6 +146,8 @@ void clsProperty::PropertyProceduresCodeCreate(bool vblnGet, bool vblnSet, Str& 
 
 void clsProperty::CodeFragmentsAdd(Str& rstrCode) {
     core::guarded(*ctx_, u"clsProperty.CodeFragmentsAdd", [&] {
+        // On the heap: held by value inside this lambda, mingw's GCC 12 reports a false
+        // "maybe-uninitialized" on its strings.
         auto procedure = std::make_unique<clsProcedure>(*ctx_);
         procedure->Name = Name;
         procedure->ModuleName = ModuleName;
